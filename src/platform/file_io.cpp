@@ -1,0 +1,162 @@
+#include "platform/file_io.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+
+#include "platform/file_error.h"
+
+namespace zvx {
+
+namespace {
+
+class Fd {
+public:
+    Fd(const std::filesystem::path& path, int flags, const char* operation) {
+        fd_ = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+        if (fd_ < 0) ThrowFileError(operation, path);
+    }
+    ~Fd() {
+        if (fd_ >= 0) ::close(fd_);
+    }
+    int get() const { return fd_; }
+
+private:
+    int fd_;
+};
+
+void WriteAll(int fd, std::string_view bytes, uint64_t offset, const std::filesystem::path& path) {
+    while (!bytes.empty()) {
+        ssize_t done = ::pwrite(fd, bytes.data(), bytes.size(), static_cast<off_t>(offset));
+        if (done < 0 && errno == EINTR) continue;
+        if (done <= 0) ThrowFileError("Cannot write", path);
+        bytes.remove_prefix(static_cast<size_t>(done));
+        offset += static_cast<uint64_t>(done);
+    }
+}
+
+void SyncFolderOf(const std::filesystem::path& path) {
+    std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
+    int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
+    }
+}
+
+}  // namespace
+
+std::string ReadFileBytes(const std::filesystem::path& path, uint64_t offset, size_t count) {
+    Fd fd(path, O_RDONLY, "Cannot open");
+    std::string bytes(count, '\0');
+    size_t got = 0;
+    while (got < count) {
+        ssize_t n = ::pread(fd.get(), bytes.data() + got, count - got,
+                            static_cast<off_t>(offset + got));
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) ThrowFileError("Cannot read", path);
+        if (n == 0) break;
+        got += static_cast<size_t>(n);
+    }
+    bytes.resize(got);
+    return bytes;
+}
+
+void WriteFileBytes(const std::filesystem::path& path, uint64_t offset, std::string_view bytes) {
+    Fd fd(path, O_WRONLY | O_CREAT, "Cannot open");
+    WriteAll(fd.get(), bytes, offset, path);
+}
+
+void WriteEmptyFile(const std::filesystem::path& path) {
+    Fd fd(path, O_WRONLY | O_CREAT | O_TRUNC, "Cannot create");
+}
+
+void TouchFile(const std::filesystem::path& path) { Fd fd(path, O_WRONLY | O_CREAT, "Cannot open"); }
+
+void DeleteFileIfExists(const std::filesystem::path& path) {
+    if (::unlink(path.c_str()) != 0 && errno != ENOENT) ThrowFileError("Cannot delete", path);
+}
+
+uint64_t FileLength(const std::filesystem::path& path) {
+    std::error_code ec;
+    uint64_t size = std::filesystem::file_size(path, ec);
+    if (ec) {
+        errno = ec.value();
+        ThrowFileError("Cannot read the size of", path);
+    }
+    return size;
+}
+
+void CopyFileBytes(const std::filesystem::path& from, const std::filesystem::path& to) {
+    std::error_code ec;
+    std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, ec);
+    if (ec) {
+        errno = ec.value();
+        ThrowFileError("Cannot copy to", to);
+    }
+}
+
+void ReplaceFile(const std::filesystem::path& source, const std::filesystem::path& target) {
+    {
+        Fd fd(source, O_RDONLY, "Cannot open");
+        ::fsync(fd.get());
+    }
+    if (::rename(source.c_str(), target.c_str()) == 0) {
+        SyncFolderOf(target);
+        return;
+    }
+    if (errno != EXDEV) ThrowFileError("Cannot replace", target);
+    // Another file system: copy beside the target first, so the rename stays atomic.
+    std::filesystem::path beside = target;
+    beside += ".zvxnew";
+    CopyFileBytes(source, beside);
+    {
+        Fd fd(beside, O_RDONLY, "Cannot open");
+        ::fsync(fd.get());
+    }
+    if (::rename(beside.c_str(), target.c_str()) != 0) {
+        int err = errno;
+        ::unlink(beside.c_str());
+        errno = err;
+        ThrowFileError("Cannot replace", target);
+    }
+    SyncFolderOf(target);
+    ::unlink(source.c_str());
+}
+
+AppendWriter::AppendWriter(const std::filesystem::path& path) : path_(path) {
+    file_ = std::fopen(path.c_str(), "ab");
+    if (!file_) ThrowFileError("Cannot open", path);
+    std::setvbuf(file_, nullptr, _IOFBF, 1 << 20);
+}
+
+AppendWriter::~AppendWriter() {
+    if (file_) std::fclose(file_);
+}
+
+void AppendWriter::write(std::string_view bytes) {
+    if (bytes.empty()) return;
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size())
+        ThrowFileError("Cannot write", path_);
+}
+
+void AppendWriter::writeLine(std::string_view line) {
+    write(line);
+    write("\r\n");
+}
+
+void AppendWriter::close() {
+    if (!file_) return;
+    std::FILE* file = file_;
+    file_ = nullptr;
+    bool failed = std::fflush(file) != 0;
+    int err = errno;
+    if (std::fclose(file) != 0 || failed) {
+        if (failed) errno = err;
+        ThrowFileError("Cannot write", path_);
+    }
+}
+
+}  // namespace zvx

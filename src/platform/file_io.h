@@ -1,0 +1,48 @@
+#pragma once
+// Whole-file operations the store builds on. Every failure throws FileError.
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace zvx {
+
+// Up to `count` bytes from the 0-based `offset`; fewer at the end of the file.
+std::string ReadFileBytes(const std::filesystem::path& path, uint64_t offset, size_t count);
+// Writes bytes in place at the 0-based `offset`, extending the file if needed.
+void WriteFileBytes(const std::filesystem::path& path, uint64_t offset, std::string_view bytes);
+// Creates the file empty, whatever stood there.
+void WriteEmptyFile(const std::filesystem::path& path);
+// Makes sure the file exists, leaving its content alone.
+void TouchFile(const std::filesystem::path& path);
+void DeleteFileIfExists(const std::filesystem::path& path);
+uint64_t FileLength(const std::filesystem::path& path);
+void CopyFileBytes(const std::filesystem::path& from, const std::filesystem::path& to);
+
+// Replaces `target` by `source`, which is gone afterwards. Crash-safe: the new content
+// is written beside the target, flushed to disk, and renamed over it, so that at every
+// moment either the old or the new file stands under the target's name.
+void ReplaceFile(const std::filesystem::path& source, const std::filesystem::path& target);
+
+// Appends to a file (creating it) through a large buffer.
+class AppendWriter {
+public:
+    explicit AppendWriter(const std::filesystem::path& path);
+    ~AppendWriter();
+    AppendWriter(const AppendWriter&) = delete;
+    AppendWriter& operator=(const AppendWriter&) = delete;
+
+    void write(std::string_view bytes);
+    // Writes the line and CR LF.
+    void writeLine(std::string_view line);
+    // Flushes and closes; reports a failed write.
+    void close();
+
+private:
+    std::filesystem::path path_;
+    std::FILE* file_ = nullptr;
+};
+
+}  // namespace zvx

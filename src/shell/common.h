@@ -1,0 +1,61 @@
+#pragma once
+// The common module: the process-wide values of one running program. One object per
+// process (tests make their own); nothing lives in hidden statics.
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "shell/loaded_settings.h"
+#include "shell/screen.h"
+
+namespace zvx {
+
+class Common {
+public:
+    // appFolder holds zvx.ini, CONFIG and PLUGINS; workFolder takes the temporary
+    // files. In the window program both are the same folder.
+    Common(std::filesystem::path appFolder, std::filesystem::path workFolder, Screen& screen);
+
+    const std::filesystem::path& applicationFolder() const { return appFolder_; }
+    const std::filesystem::path& workFolder() const { return workFolder_; }
+    // A temporary file by its fixed name ("tempfile.tmp", "decheck.tmp" ...).
+    std::filesystem::path workFile(const std::string& name) const { return workFolder_ / name; }
+    // The settings file.
+    std::filesystem::path iniFile() const;
+
+    Screen& screen() const { return *screen_; }
+
+    // Fires an event name for the plug-ins (PLUGSTART); does nothing until a
+    // front end installs a handler.
+    void PLUGSTART(const std::string& eventName) const;
+    // Sets the change flag (aender) of the active document.
+    void SetActiveDocumentChanged() const;
+
+    // Progress counters of long operations, shown through the Screen.
+    void setProgress(long long value);
+    void setProgressMax(long long maximum);
+    long long progressValue = 0;
+    long long progressMax = 0;
+
+    LoadedSettings settings;
+
+    // The last answer of the duplicate dialog within one run, or empty.
+    std::string DuplicateChoice;
+    // Set when the user aborts an add run.
+    bool AbortAdding = false;
+    // The counter of NextFolderID, set by ScanHighestFolderID.
+    long long folderIdCounter = 0;
+    // A path LoadDoc takes instead of showing its dialog.
+    std::string pendingDocument;
+
+    std::function<void(const std::string&)> onPlugStart;
+    std::function<void()> onActiveDocumentChanged;
+
+private:
+    std::filesystem::path appFolder_;
+    std::filesystem::path workFolder_;
+    Screen* screen_;
+};
+
+}  // namespace zvx

@@ -1,0 +1,38 @@
+#include "store/append_entry.h"
+
+#include <string>
+
+#include "metadata/case_mode.h"
+#include "platform/file_io.h"
+#include "shell/common.h"
+#include "store/duplicate_check.h"
+
+namespace zvx {
+
+namespace {
+
+void ApplyCaseModeToTexts(EntryValues& v, int mode) {
+    if (mode == kCaseLeaveUntouched) return;
+    for (std::string* field :
+         {&v.title, &v.artist, &v.album, &v.comment, &v.description, &v.producer}) {
+        *field = ApplyCaseMode(*field, mode, true);
+    }
+}
+
+}  // namespace
+
+bool AppendEntry(Common& common, const std::filesystem::path& target, std::string_view folderId,
+                 std::string_view fullPath, EntryValues values, bool readOnly,
+                 bool checkDuplicates) {
+    ApplyCaseModeToTexts(values, common.settings.caseMode);
+    std::string line = ComposeEntryLine(folderId, fullPath, values, readOnly,
+                                        common.settings.renumberingLevel);
+    common.SetActiveDocumentChanged();
+    if (checkDuplicates && !CheckDuplicate(common, target, line)) return false;
+    AppendWriter writer(target);
+    writer.writeLine(line);
+    writer.close();
+    return true;
+}
+
+}  // namespace zvx

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+#include "store/entry_line.h"
+
+namespace zvx {
+
+class Common;
+
+// Appends an entry for a file to the end of a catalogue; nothing else of the file is
+// touched. The case mode of the settings is applied to title, artist, album, comment,
+// description and producer first. With `checkDuplicates` (the marker "no") the
+// duplicate check decides whether the line is written. Sets the change flag of the
+// active document. Returns whether the line was appended.
+bool AppendEntry(Common& common, const std::filesystem::path& target, std::string_view folderId,
+                 std::string_view fullPath, EntryValues values, bool readOnly,
+                 bool checkDuplicates);
+
+}  // namespace zvx

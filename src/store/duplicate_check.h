@@ -1,0 +1,24 @@
+#pragma once
+// The duplicate check every adding path and copy or move runs before it writes a line.
+// Two entry lines are duplicates when their folder IDs and their name, path and
+// medium-ID fields are equal; size and date are only shown.
+
+#include <filesystem>
+#include <string_view>
+
+namespace zvx {
+
+class Common;
+
+inline constexpr const char* kKeepOld = "keepold";
+inline constexpr const char* kKeepAll = "keepall";
+inline constexpr const char* kDelOld = "delold";
+inline constexpr const char* kDelAll = "delall";
+
+// Whether `newLine` is to be written to `file`. On a duplicate the user is asked
+// (unless "Keep all" or "Overwrite all" was answered in this run); overwriting strikes
+// the old line out of the file. In decheck.tmp, the copy that only keeps track of what
+// has been seen, a duplicate is struck out silently.
+bool CheckDuplicate(Common& common, const std::filesystem::path& file, std::string_view newLine);
+
+}  // namespace zvx
