@@ -7,16 +7,20 @@ namespace zvx {
 namespace {
 
 bool SplitsWords(std::string_view ch, bool underscore) {
-    if (ch.size() != 1) return false;
+    if (ch.size() != 1)
+        return false;
     switch (ch[0]) {
         case ' ':
         case '(':
         case '[':
         case '-':
         case ')':
-        case ']': return true;
-        case '_': return underscore;
-        default: return false;
+        case ']':
+            return true;
+        case '_':
+            return underscore;
+        default:
+            return false;
     }
 }
 
@@ -52,11 +56,16 @@ std::string FirstLetter(std::string_view text) {
 
 std::string ApplyCaseMode(std::string_view text, int mode, bool underscoreSplitsWords) {
     switch (mode) {
-        case kCaseFirstLetter: return FirstLetter(text);
-        case kCaseEveryWord: return EveryWord(text, underscoreSplitsWords);
-        case kCaseCapitals: return UpperCase(text);
-        case kCaseLower: return LowerCase(text);
-        default: return std::string(text);
+        case kCaseFirstLetter:
+            return FirstLetter(text);
+        case kCaseEveryWord:
+            return EveryWord(text, underscoreSplitsWords);
+        case kCaseCapitals:
+            return UpperCase(text);
+        case kCaseLower:
+            return LowerCase(text);
+        default:
+            return std::string(text);
     }
 }
 

@@ -10,21 +10,30 @@ FileError::FileError(int number, const std::filesystem::path& path, const std::s
 
 int ErrorNumberFromErrno(int err) {
     switch (err) {
-        case ENOENT: return 53;
-        case ENOTDIR: return 76;
+        case ENOENT:
+            return 53;
+        case ENOTDIR:
+            return 76;
         case EACCES:
         case EPERM:
-        case EROFS: return 70;
-        case EIO: return 57;
+        case EROFS:
+            return 70;
+        case EIO:
+            return 57;
         case ENOSPC:
-        case EDQUOT: return 61;
+        case EDQUOT:
+            return 61;
         case EBUSY:
-        case ETXTBSY: return 55;
+        case ETXTBSY:
+            return 55;
         case ENXIO:
         case ENODEV:
-        case ENOMEDIUM: return 71;
-        case EISDIR: return 75;
-        default: return 51;  // internal error
+        case ENOMEDIUM:
+            return 71;
+        case EISDIR:
+            return 75;
+        default:
+            return 51;  // internal error
     }
 }
 
@@ -34,7 +43,8 @@ void ThrowFileError(const std::string& operation, const std::filesystem::path& p
     int number = ErrorNumberFromErrno(err);
     if (err == ENOENT && path.has_parent_path()) {
         std::error_code ec;
-        if (!std::filesystem::exists(path.parent_path(), ec)) number = 76;
+        if (!std::filesystem::exists(path.parent_path(), ec))
+            number = 76;
     }
     throw FileError(number, path, operation + " " + path.string() + ": " + std::strerror(err));
 }

@@ -10,12 +10,12 @@
 namespace zvx {
 
 class FileError : public std::runtime_error {
-public:
+  public:
     FileError(int number, const std::filesystem::path& path, const std::string& what);
     int number() const { return number_; }
     const std::filesystem::path& path() const { return path_; }
 
-private:
+  private:
     int number_;
     std::filesystem::path path_;
 };

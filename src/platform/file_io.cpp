@@ -13,25 +13,29 @@ namespace zvx {
 namespace {
 
 class Fd {
-public:
+  public:
     Fd(const std::filesystem::path& path, int flags, const char* operation) {
         fd_ = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
-        if (fd_ < 0) ThrowFileError(operation, path);
+        if (fd_ < 0)
+            ThrowFileError(operation, path);
     }
     ~Fd() {
-        if (fd_ >= 0) ::close(fd_);
+        if (fd_ >= 0)
+            ::close(fd_);
     }
     int get() const { return fd_; }
 
-private:
+  private:
     int fd_;
 };
 
 void WriteAll(int fd, std::string_view bytes, uint64_t offset, const std::filesystem::path& path) {
     while (!bytes.empty()) {
         ssize_t done = ::pwrite(fd, bytes.data(), bytes.size(), static_cast<off_t>(offset));
-        if (done < 0 && errno == EINTR) continue;
-        if (done <= 0) ThrowFileError("Cannot write", path);
+        if (done < 0 && errno == EINTR)
+            continue;
+        if (done <= 0)
+            ThrowFileError("Cannot write", path);
         bytes.remove_prefix(static_cast<size_t>(done));
         offset += static_cast<uint64_t>(done);
     }
@@ -53,11 +57,14 @@ std::string ReadFileBytes(const std::filesystem::path& path, uint64_t offset, si
     std::string bytes(count, '\0');
     size_t got = 0;
     while (got < count) {
-        ssize_t n = ::pread(fd.get(), bytes.data() + got, count - got,
-                            static_cast<off_t>(offset + got));
-        if (n < 0 && errno == EINTR) continue;
-        if (n < 0) ThrowFileError("Cannot read", path);
-        if (n == 0) break;
+        ssize_t n =
+            ::pread(fd.get(), bytes.data() + got, count - got, static_cast<off_t>(offset + got));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            ThrowFileError("Cannot read", path);
+        if (n == 0)
+            break;
         got += static_cast<size_t>(n);
     }
     bytes.resize(got);
@@ -73,10 +80,13 @@ void WriteEmptyFile(const std::filesystem::path& path) {
     Fd fd(path, O_WRONLY | O_CREAT | O_TRUNC, "Cannot create");
 }
 
-void TouchFile(const std::filesystem::path& path) { Fd fd(path, O_WRONLY | O_CREAT, "Cannot open"); }
+void TouchFile(const std::filesystem::path& path) {
+    Fd fd(path, O_WRONLY | O_CREAT, "Cannot open");
+}
 
 void DeleteFileIfExists(const std::filesystem::path& path) {
-    if (::unlink(path.c_str()) != 0 && errno != ENOENT) ThrowFileError("Cannot delete", path);
+    if (::unlink(path.c_str()) != 0 && errno != ENOENT)
+        ThrowFileError("Cannot delete", path);
 }
 
 uint64_t FileLength(const std::filesystem::path& path) {
@@ -107,7 +117,8 @@ void ReplaceFile(const std::filesystem::path& source, const std::filesystem::pat
         SyncFolderOf(target);
         return;
     }
-    if (errno != EXDEV) ThrowFileError("Cannot replace", target);
+    if (errno != EXDEV)
+        ThrowFileError("Cannot replace", target);
     // Another file system: copy beside the target first, so the rename stays atomic.
     std::filesystem::path beside = target;
     beside += ".zvxnew";
@@ -128,16 +139,19 @@ void ReplaceFile(const std::filesystem::path& source, const std::filesystem::pat
 
 AppendWriter::AppendWriter(const std::filesystem::path& path) : path_(path) {
     file_ = std::fopen(path.c_str(), "ab");
-    if (!file_) ThrowFileError("Cannot open", path);
+    if (!file_)
+        ThrowFileError("Cannot open", path);
     std::setvbuf(file_, nullptr, _IOFBF, 1 << 20);
 }
 
 AppendWriter::~AppendWriter() {
-    if (file_) std::fclose(file_);
+    if (file_)
+        std::fclose(file_);
 }
 
 void AppendWriter::write(std::string_view bytes) {
-    if (bytes.empty()) return;
+    if (bytes.empty())
+        return;
     if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size())
         ThrowFileError("Cannot write", path_);
 }
@@ -148,13 +162,15 @@ void AppendWriter::writeLine(std::string_view line) {
 }
 
 void AppendWriter::close() {
-    if (!file_) return;
+    if (!file_)
+        return;
     std::FILE* file = file_;
     file_ = nullptr;
     bool failed = std::fflush(file) != 0;
     int err = errno;
     if (std::fclose(file) != 0 || failed) {
-        if (failed) errno = err;
+        if (failed)
+            errno = err;
         ThrowFileError("Cannot write", path_);
     }
 }

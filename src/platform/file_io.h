@@ -28,7 +28,7 @@ void ReplaceFile(const std::filesystem::path& source, const std::filesystem::pat
 
 // Appends to a file (creating it) through a large buffer.
 class AppendWriter {
-public:
+  public:
     explicit AppendWriter(const std::filesystem::path& path);
     ~AppendWriter();
     AppendWriter(const AppendWriter&) = delete;
@@ -40,7 +40,7 @@ public:
     // Flushes and closes; reports a failed write.
     void close();
 
-private:
+  private:
     std::filesystem::path path_;
     std::FILE* file_ = nullptr;
 };

@@ -17,7 +17,8 @@ constexpr size_t kChunk = 1 << 20;
 LineReader::LineReader(const std::filesystem::path& path, uint64_t offset)
     : path_(path), buffer_(kChunk), filePos_(offset) {
     fd_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd_ < 0) ThrowFileError("Cannot open", path);
+    if (fd_ < 0)
+        ThrowFileError("Cannot open", path);
     ::posix_fadvise(fd_, 0, 0, POSIX_FADV_SEQUENTIAL);
     if (offset > 0 && ::lseek(fd_, static_cast<off_t>(offset), SEEK_SET) < 0) {
         int err = errno;
@@ -28,24 +29,28 @@ LineReader::LineReader(const std::filesystem::path& path, uint64_t offset)
 }
 
 LineReader::~LineReader() {
-    if (fd_ >= 0) ::close(fd_);
+    if (fd_ >= 0)
+        ::close(fd_);
 }
 
 // Moves the unread rest to the front, grows the buffer when a line fills it, and
 // reads more. False when nothing more could be read.
 bool LineReader::fill() {
-    if (eof_) return false;
+    if (eof_)
+        return false;
     if (begin_ > 0) {
         std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
         end_ -= begin_;
         begin_ = 0;
     }
-    if (end_ == buffer_.size()) buffer_.resize(buffer_.size() * 2);
+    if (end_ == buffer_.size())
+        buffer_.resize(buffer_.size() * 2);
     ssize_t got;
     do {
         got = ::read(fd_, buffer_.data() + end_, buffer_.size() - end_);
     } while (got < 0 && errno == EINTR);
-    if (got < 0) ThrowFileError("Cannot read", path_);
+    if (got < 0)
+        ThrowFileError("Cannot read", path_);
     if (got == 0) {
         eof_ = true;
         return false;
@@ -63,16 +68,19 @@ bool LineReader::next(std::string_view& line) {
         if (lf) {
             size_t at = static_cast<const char*>(lf) - buffer_.data();
             size_t length = at - begin_;
-            if (length > 0 && buffer_[at - 1] == '\r') --length;
+            if (length > 0 && buffer_[at - 1] == '\r')
+                --length;
             line = std::string_view(buffer_.data() + begin_, length);
             begin_ = at + 1;
             return true;
         }
         size_t scanned = end_ - begin_;
-        if (!fill()) break;
+        if (!fill())
+            break;
         searchFrom = begin_ + scanned;
     }
-    if (begin_ == end_) return false;
+    if (begin_ == end_)
+        return false;
     line = std::string_view(buffer_.data() + begin_, end_ - begin_);
     begin_ = end_;
     return true;

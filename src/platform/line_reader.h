@@ -11,7 +11,7 @@
 namespace zvx {
 
 class LineReader {
-public:
+  public:
     // Opens the file for reading from the 0-based byte `offset`. Throws FileError.
     explicit LineReader(const std::filesystem::path& path, uint64_t offset = 0);
     ~LineReader();
@@ -23,7 +23,7 @@ public:
     // 0-based offset of the first byte not read yet.
     uint64_t position() const { return filePos_ - (end_ - begin_); }
 
-private:
+  private:
     bool fill();
 
     int fd_ = -1;

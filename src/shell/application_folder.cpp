@@ -18,12 +18,14 @@ FolderEnvironment CurrentFolderEnvironment(const std::filesystem::path& programF
 }
 
 std::filesystem::path ResolveApplicationFolder(const FolderEnvironment& env) {
-    if (!env.zvxHome.empty()) return std::filesystem::absolute(env.zvxHome);
+    if (!env.zvxHome.empty())
+        return std::filesystem::absolute(env.zvxHome);
     std::error_code ec;
     if (!env.programFolder.empty() &&
         std::filesystem::is_regular_file(env.programFolder / "zvx.ini", ec))
         return env.programFolder;
-    if (!env.xdgDataHome.empty()) return std::filesystem::path(env.xdgDataHome) / "zvx";
+    if (!env.xdgDataHome.empty())
+        return std::filesystem::path(env.xdgDataHome) / "zvx";
     return std::filesystem::path(env.home.empty() ? "." : env.home) / ".local" / "share" / "zvx";
 }
 
@@ -36,9 +38,11 @@ bool EnsureFolder(const std::filesystem::path& folder) {
 std::filesystem::path MakePrivateWorkFolder() {
     std::error_code ec;
     std::filesystem::path base = std::filesystem::temp_directory_path(ec);
-    if (ec) base = "/tmp";
+    if (ec)
+        base = "/tmp";
     std::string pattern = (base / "zvxcat-XXXXXX").string();
-    if (char* made = mkdtemp(pattern.data())) return made;
+    if (char* made = mkdtemp(pattern.data()))
+        return made;
     return {};
 }
 

@@ -12,11 +12,13 @@ std::filesystem::path Common::iniFile() const {
 }
 
 void Common::PLUGSTART(const std::string& eventName) const {
-    if (onPlugStart) onPlugStart(eventName);
+    if (onPlugStart)
+        onPlugStart(eventName);
 }
 
 void Common::SetActiveDocumentChanged() const {
-    if (onActiveDocumentChanged) onActiveDocumentChanged();
+    if (onActiveDocumentChanged)
+        onActiveDocumentChanged();
 }
 
 void Common::setProgress(long long value) {

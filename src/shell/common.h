@@ -12,7 +12,7 @@
 namespace zvx {
 
 class Common {
-public:
+  public:
     // appFolder holds zvx.ini, CONFIG and PLUGINS; workFolder takes the temporary
     // files. In the window program both are the same folder.
     Common(std::filesystem::path appFolder, std::filesystem::path workFolder, Screen& screen);
@@ -52,7 +52,7 @@ public:
     std::function<void(const std::string&)> onPlugStart;
     std::function<void()> onActiveDocumentChanged;
 
-private:
+  private:
     std::filesystem::path appFolder_;
     std::filesystem::path workFolder_;
     Screen* screen_;

@@ -12,7 +12,9 @@ std::string_view RTrim(std::string_view text) {
     return end == std::string_view::npos ? std::string_view() : text.substr(0, end + 1);
 }
 
-std::string_view Trim(std::string_view text) { return RTrim(LTrim(text)); }
+std::string_view Trim(std::string_view text) {
+    return RTrim(LTrim(text));
+}
 
 std::string_view Right(std::string_view text, size_t n) {
     return n >= text.size() ? text : text.substr(text.size() - n);
@@ -21,7 +23,8 @@ std::string_view Right(std::string_view text, size_t n) {
 std::string CleanFieldText(std::string_view text) {
     std::string out(text);
     for (char& c : out) {
-        if (c == '\x01' || c == '\r' || c == '\n') c = ' ';
+        if (c == '\x01' || c == '\r' || c == '\n')
+            c = ' ';
     }
     return out;
 }

@@ -27,14 +27,16 @@ bool MatchOne(const std::vector<std::string>& name, const std::vector<std::strin
             return false;
         }
     }
-    while (p < pattern.size() && pattern[p] == "*") ++p;
+    while (p < pattern.size() && pattern[p] == "*")
+        ++p;
     return p == pattern.size();
 }
 
 std::vector<std::string> UpperCharacters(std::string_view text) {
     std::vector<std::string> out;
     bool utf8 = IsValidUtf8(text);
-    for (std::string_view ch : Characters(text)) out.push_back(UpperChar(ch, utf8));
+    for (std::string_view ch : Characters(text))
+        out.push_back(UpperChar(ch, utf8));
     return out;
 }
 
@@ -45,10 +47,13 @@ bool MatchesFilePattern(std::string_view name, std::string_view patterns) {
     size_t start = 0;
     while (start <= patterns.size()) {
         size_t end = patterns.find(';', start);
-        if (end == std::string_view::npos) end = patterns.size();
+        if (end == std::string_view::npos)
+            end = patterns.size();
         std::string_view pattern = Trim(patterns.substr(start, end - start));
-        if (pattern == "*.*" || pattern == "*") return true;
-        if (!pattern.empty() && MatchOne(upperName, UpperCharacters(pattern))) return true;
+        if (pattern == "*.*" || pattern == "*")
+            return true;
+        if (!pattern.empty() && MatchOne(upperName, UpperCharacters(pattern)))
+            return true;
         start = end + 1;
     }
     return false;

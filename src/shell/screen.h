@@ -19,7 +19,7 @@ struct DuplicateQuestion {
 };
 
 class Screen {
-public:
+  public:
     virtual ~Screen() = default;
 
     // A message box. An empty caption is shown as the program's title.

@@ -12,7 +12,8 @@ namespace zvx {
 namespace {
 
 void ApplyCaseModeToTexts(EntryValues& v, int mode) {
-    if (mode == kCaseLeaveUntouched) return;
+    if (mode == kCaseLeaveUntouched)
+        return;
     for (std::string* field :
          {&v.title, &v.artist, &v.album, &v.comment, &v.description, &v.producer}) {
         *field = ApplyCaseMode(*field, mode, true);
@@ -25,10 +26,11 @@ bool AppendEntry(Common& common, const std::filesystem::path& target, std::strin
                  std::string_view fullPath, EntryValues values, bool readOnly,
                  bool checkDuplicates) {
     ApplyCaseModeToTexts(values, common.settings.caseMode);
-    std::string line = ComposeEntryLine(folderId, fullPath, values, readOnly,
-                                        common.settings.renumberingLevel);
+    std::string line =
+        ComposeEntryLine(folderId, fullPath, values, readOnly, common.settings.renumberingLevel);
     common.SetActiveDocumentChanged();
-    if (checkDuplicates && !CheckDuplicate(common, target, line)) return false;
+    if (checkDuplicates && !CheckDuplicate(common, target, line))
+        return false;
     AppendWriter writer(target);
     writer.writeLine(line);
     writer.close();

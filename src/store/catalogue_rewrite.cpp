@@ -23,9 +23,13 @@ CatalogueRewrite::CatalogueRewrite(const Common& common, const std::filesystem::
       reader_(catalogue, kTocStart),
       writer_(common.workFile(kTempFile)) {}
 
-bool CatalogueRewrite::nextTocGroup(TocGroup& group) { return ReadTocGroup(reader_, group); }
+bool CatalogueRewrite::nextTocGroup(TocGroup& group) {
+    return ReadTocGroup(reader_, group);
+}
 
-bool CatalogueRewrite::nextEntryLine(std::string_view& line) { return reader_.next(line); }
+bool CatalogueRewrite::nextEntryLine(std::string_view& line) {
+    return reader_.next(line);
+}
 
 void CatalogueRewrite::writeTocGroup(const TocGroup& group) {
     writer_.writeLine(group.path);
@@ -33,14 +37,19 @@ void CatalogueRewrite::writeTocGroup(const TocGroup& group) {
     writer_.writeLine(group.id);
 }
 
-void CatalogueRewrite::endToc() { writer_.writeLine(""); }
+void CatalogueRewrite::endToc() {
+    writer_.writeLine("");
+}
 
-void CatalogueRewrite::writeLine(std::string_view line) { writer_.writeLine(line); }
+void CatalogueRewrite::writeLine(std::string_view line) {
+    writer_.writeLine(line);
+}
 
 void CatalogueRewrite::finish(bool tocChanged) {
     writer_.close();
     ReplaceFromTempFile(common_, catalogue_);
-    if (tocChanged) UpdateEntryOffset(common_, catalogue_);
+    if (tocChanged)
+        UpdateEntryOffset(common_, catalogue_);
 }
 
 }  // namespace zvx

@@ -22,7 +22,7 @@ class Common;
 struct TocGroup;
 
 class CatalogueRewrite {
-public:
+  public:
     // Prepares tempfile.tmp with the catalogue's header and opens both files.
     CatalogueRewrite(const Common& common, const std::filesystem::path& catalogue);
 
@@ -42,7 +42,7 @@ public:
     // TOC changed in length.
     void finish(bool tocChanged);
 
-private:
+  private:
     const Common& common_;
     std::filesystem::path catalogue_;
     LineReader reader_;

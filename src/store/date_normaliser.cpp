@@ -37,10 +37,12 @@ std::string NormaliseDate(std::string_view text) {
         size_t keep = colon + 1 >= 3 ? colon + 1 - 3 : 0;
         date = Trim(date.substr(0, keep));
     }
-    if (date.find('.') == std::string_view::npos) return std::string(date);
+    if (date.find('.') == std::string_view::npos)
+        return std::string(date);
     DayMonthYear parts = SplitAtDots(date);
     std::string year(parts.year);
-    if (year.size() == 2) year = (NumericValue(year) <= 29 ? "20" : "19") + year;
+    if (year.size() == 2)
+        year = (NumericValue(year) <= 29 ? "20" : "19") + year;
     return std::string(Right(parts.month, 2)) + "-" + std::string(Right(parts.day, 2)) + "-" +
            std::string(Right(year, 4));
 }

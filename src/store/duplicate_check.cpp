@@ -30,10 +30,12 @@ void StrikeOut(const Common& common, const std::filesystem::path& file, uint64_t
         std::string_view line;
         while (reader.next(line)) {
             writer.writeLine(line);
-            if (line.empty()) break;
+            if (line.empty())
+                break;
         }
         for (uint64_t number = 1; reader.next(line); ++number) {
-            if (number != lineNumber) writer.writeLine(line);
+            if (number != lineNumber)
+                writer.writeLine(line);
         }
         writer.close();
     }
@@ -62,8 +64,10 @@ bool CheckDuplicate(Common& common, const std::filesystem::path& file, std::stri
         LineReader reader(file, offset > 0 ? offset - 1 : 0);
         std::string_view line;
         for (uint64_t number = 1; reader.next(line); ++number) {
-            if (line.substr(0, kFolderIdLength) != newId) continue;
-            if (!SameEntry(SplitEntryLine(line), added)) continue;
+            if (line.substr(0, kFolderIdLength) != newId)
+                continue;
+            if (!SameEntry(SplitEntryLine(line), added))
+                continue;
             if (isDecheck || AskOverwrite(common, SplitEntryLine(line), added)) {
                 hit = number;
                 break;
@@ -71,7 +75,8 @@ bool CheckDuplicate(Common& common, const std::filesystem::path& file, std::stri
             result = false;
         }
     }
-    if (hit > 0) StrikeOut(common, file, hit);
+    if (hit > 0)
+        StrikeOut(common, file, hit);
     return result;
 }
 

@@ -12,7 +12,8 @@ namespace {
 
 // The path with its first character in lower case.
 std::string LowerFirstCharacter(std::string_view path) {
-    if (path.empty()) return {};
+    if (path.empty())
+        return {};
     std::string_view first = Characters(path).front();
     return LowerChar(first, IsValidUtf8(path)) + std::string(path.substr(first.size()));
 }
@@ -24,12 +25,28 @@ std::string ComposeEntryLine(std::string_view folderId, std::string_view fullPat
     SplitPathResult split = SplitPath(LowerFirstCharacter(fullPath));
     const std::string name = split.fileName();
     const std::string track = FormatTrack(v.track, renumberingLevel);
-    const std::string_view fields[kEntryFieldCount] = {
-        name, v.size,  split.folder, v.driveId,  readOnly ? "1" : "0",
-        v.driveDescription, v.date, v.contentType, v.title, v.artist,
-        v.album, v.genre, v.producer, v.style, track,
-        v.year, v.comment, v.description, v.length, v.bitrate,
-        v.frequency, v.mode};
+    const std::string_view fields[kEntryFieldCount] = {name,
+                                                       v.size,
+                                                       split.folder,
+                                                       v.driveId,
+                                                       readOnly ? "1" : "0",
+                                                       v.driveDescription,
+                                                       v.date,
+                                                       v.contentType,
+                                                       v.title,
+                                                       v.artist,
+                                                       v.album,
+                                                       v.genre,
+                                                       v.producer,
+                                                       v.style,
+                                                       track,
+                                                       v.year,
+                                                       v.comment,
+                                                       v.description,
+                                                       v.length,
+                                                       v.bitrate,
+                                                       v.frequency,
+                                                       v.mode};
     std::string line = CleanFieldText(folderId);
     for (std::string_view field : fields) {
         line += kFieldSeparator;

@@ -36,8 +36,10 @@ uint64_t FindTocEnd(const std::filesystem::path& path) {
     LineReader reader(path, kTocStart);
     std::string_view line;
     while (reader.next(line)) {
-        if (line.empty()) break;
-        if (!reader.next(line) || !reader.next(line)) break;
+        if (line.empty())
+            break;
+        if (!reader.next(line) || !reader.next(line))
+            break;
     }
     return reader.position() + 1;
 }

@@ -17,9 +17,11 @@ std::string FolderIdText(long long number) {
 
 std::string FreeFolderID(const std::vector<TocGroup>& groups) {
     std::set<double> used;
-    for (const TocGroup& group : groups) used.insert(NumericValue(group.id));
+    for (const TocGroup& group : groups)
+        used.insert(NumericValue(group.id));
     long long candidate = 0;
-    while (used.count(static_cast<double>(candidate))) ++candidate;
+    while (used.count(static_cast<double>(candidate)))
+        ++candidate;
     return FolderIdText(candidate);
 }
 
@@ -32,7 +34,8 @@ void ScanHighestFolderID(Common& common, const std::filesystem::path& catalogue)
     for (const TocGroup& group : ReadTocGroups(catalogue)) {
         // IDs are eight digits; a garbage line must not overflow the counter.
         double value = std::min(NumericValue(group.id), 1e15);
-        if (value >= static_cast<double>(counter)) counter = static_cast<long long>(value) + 1;
+        if (value >= static_cast<double>(counter))
+            counter = static_cast<long long>(value) + 1;
     }
     common.folderIdCounter = counter;
 }

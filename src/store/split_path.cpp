@@ -9,7 +9,8 @@ std::string SplitPathResult::fileName() const {
 SplitPathResult SplitPath(std::string_view path) {
     SplitPathResult result;
     size_t colon = path.find(':');
-    if (colon != std::string_view::npos) result.drive = path.substr(0, colon + 1);
+    if (colon != std::string_view::npos)
+        result.drive = path.substr(0, colon + 1);
     size_t dot = std::string_view::npos;
     for (size_t i = path.size(); i-- > 0;) {
         char c = path[i];

@@ -8,7 +8,9 @@
 
 namespace zvx {
 
-void PrepareTempFile(const Common& common) { WriteEmptyFile(common.workFile(kTempFile)); }
+void PrepareTempFile(const Common& common) {
+    WriteEmptyFile(common.workFile(kTempFile));
+}
 
 void CopyHeaderToTempFile(const Common& common, const std::filesystem::path& catalogue) {
     std::string header = ReadFileBytes(catalogue, 0, kHeaderSize);

@@ -28,9 +28,11 @@ TocGroup MakeTocGroup(std::string_view path, std::string_view description, int i
 
 bool ReadTocGroup(LineReader& reader, TocGroup& group, bool* closed) {
     std::string_view line;
-    if (!reader.next(line)) return false;
+    if (!reader.next(line))
+        return false;
     if (line.empty()) {
-        if (closed) *closed = true;
+        if (closed)
+            *closed = true;
         return false;
     }
     group.path = line;
@@ -43,7 +45,8 @@ std::vector<TocGroup> ReadTocGroups(const std::filesystem::path& path) {
     std::vector<TocGroup> groups;
     LineReader reader(path, kTocStart);
     TocGroup group;
-    while (ReadTocGroup(reader, group)) groups.push_back(group);
+    while (ReadTocGroup(reader, group))
+        groups.push_back(group);
     return groups;
 }
 

@@ -14,14 +14,16 @@ std::string CatalogueBytes(const std::vector<FolderSpec>& folders,
     toc += "\r\n";
     std::string bytes(1, static_cast<char>(version));
     bytes += EncodeEntryOffset(5 + toc.size() + 1) + toc;
-    for (const std::string& line : entryLines) bytes += line + "\r\n";
+    for (const std::string& line : entryLines)
+        bytes += line + "\r\n";
     return bytes;
 }
 
 std::string EntryLineOf(const std::string& id, std::vector<std::string> fields) {
     fields.resize(22);
     std::string line = id;
-    for (const std::string& f : fields) line += '\x01' + f;
+    for (const std::string& f : fields)
+        line += '\x01' + f;
     return line;
 }
 

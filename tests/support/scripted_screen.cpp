@@ -4,7 +4,9 @@
 
 namespace zvx::test {
 
-void ScriptedScreen::answerMessage(MsgAnswer answer) { answers_.push_back({"message", answer, {}}); }
+void ScriptedScreen::answerMessage(MsgAnswer answer) {
+    answers_.push_back({"message", answer, {}});
+}
 void ScriptedScreen::answerInput(const std::string& text) {
     answers_.push_back({"input", MsgAnswer::Ok, text});
 }
@@ -26,7 +28,8 @@ MsgAnswer ScriptedScreen::message(const std::string& caption, const std::string&
                                   MsgButtons buttons, MsgIcon icon) {
     shown.push_back({"message", caption, text, buttons, icon});
     // A box with only an OK button asks nothing.
-    if (buttons == MsgButtons::OkOnly) return MsgAnswer::Ok;
+    if (buttons == MsgButtons::OkOnly)
+        return MsgAnswer::Ok;
     return take("message", caption + " | " + text).message;
 }
 

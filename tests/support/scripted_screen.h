@@ -19,7 +19,7 @@ struct Shown {
 };
 
 class ScriptedScreen : public Screen {
-public:
+  public:
     // Queue the answers, in the order the questions will come.
     void answerMessage(MsgAnswer answer);
     void answerInput(const std::string& text);
@@ -45,7 +45,7 @@ public:
     // Answers queued but never asked for.
     size_t unanswered() const { return answers_.size(); }
 
-private:
+  private:
     struct Answer {
         std::string kind;
         MsgAnswer message = MsgAnswer::Ok;

@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "store/append_entry.h"
+#include "store/entry_offset.h"
+#include "store/folder_listing.h"
+#include "store/new_catalogue.h"
+#include "support/catalogue_bytes.h"
+#include "support/temp_folder.h"
+
+namespace zvx {
+namespace {
+
+std::vector<std::string> Listing(const std::filesystem::path& file, const std::string& id) {
+    std::vector<std::string> lines;
+    ListFolderEntries(file, id, [&](std::string_view line) { lines.emplace_back(line); });
+    return lines;
+}
+
+TEST(AppendEntry, AppendsOneLineAndLeavesHeaderAndTocAlone) {
+    test::TestEnvironment env;
+    auto file = env.folder / "doc.zvx";
+    test::WriteAll(file, test::CatalogueBytes({{"Music\\", "", 10, "00000000"}}, {}));
+    const std::string before = test::ReadAll(file);
+    EntryValues v;
+    v.title = "the BEST of_rock";
+    v.genre = "rock";
+    v.style = "soft rock";
+    v.track = "5";
+    env.common.settings.caseMode = 2;
+    EXPECT_TRUE(AppendEntry(env.common, file, "00000000", "C:\\m\\a.mp3", v, false, false));
+    EXPECT_EQ(env.changedCalls, 1);
+    const std::string after = test::ReadAll(file);
+    EXPECT_EQ(after.substr(0, before.size()), before);
+    ASSERT_EQ(Listing(file, "00000000").size(), 1u);
+    EntryFields f = SplitEntryLine(Listing(file, "00000000")[0]);
+    EXPECT_EQ(f[9], "The Best Of_Rock");  // "_" splits words in new entries
+    EXPECT_EQ(f[12], "rock");             // the genre and style keep their case
+    EXPECT_EQ(f[14], "soft rock");
+    EXPECT_EQ(f[15], "05");
+    EXPECT_EQ(after.substr(after.size() - 2), "\r\n");
+}
+
+TEST(AppendEntry, CaseModeZeroLeavesTextsUntouched) {
+    test::TestEnvironment env;
+    auto file = env.folder / "doc.zvx";
+    CreateCatalogue(env.common, file);
+    env.common.settings.caseMode = 0;
+    env.common.settings.renumberingLevel = 3;
+    EntryValues v;
+    v.artist = "mIxEd";
+    v.track = "12";
+    AppendEntry(env.common, file, "00000000", "c:\\a.mp3", v, false, false);
+    EntryFields f = SplitEntryLine(Listing(file, "00000000").at(0));
+    EXPECT_EQ(f[10], "mIxEd");
+    EXPECT_EQ(f[15], "0012");
+}
+
+TEST(FolderListing, FindsAFoldersLinesFromTheEntryOffset) {
+    test::TestEnvironment env;
+    auto file = env.folder / "doc.zvx";
+    std::string a1 = test::EntryLineOf("00000001", {"a1"});
+    std::string b1 = test::EntryLineOf("00000002", {"b1"});
+    std::string a2 = test::EntryLineOf("00000001", {"a2"});
+    // The TOC's own ID line "00000001" must not be taken for an entry.
+    std::string bytes = test::CatalogueBytes(
+        {{"a\\", "", 10, "00000001"}, {"b\\", "", 10, "00000002"}}, {a1, "short", b1, "", a2});
+    bytes.erase(bytes.size() - 2);  // the last line has no CR LF
+    test::WriteAll(file, bytes);
+    EXPECT_EQ(Listing(file, "00000001"), (std::vector<std::string>{a1, a2}));
+    EXPECT_EQ(Listing(file, "00000002"), (std::vector<std::string>{b1}));
+    EXPECT_TRUE(Listing(file, "00000009").empty());
+}
+
+TEST(FolderListing, AHugeLineIsReadWhole) {
+    test::TestEnvironment env;
+    auto file = env.folder / "huge.zvx";
+    std::string huge = test::EntryLineOf("00000000", {std::string(10 << 20, 'x')});
+    test::WriteAll(file, test::CatalogueBytes({}, {huge, test::EntryLineOf("00000000", {"b"})}));
+    auto lines = Listing(file, "00000000");
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[0].size(), huge.size());
+}
+
+}  // namespace
+}  // namespace zvx
