@@ -1,0 +1,38 @@
+#include "command_list.h"
+
+#include <array>
+#include <iomanip>
+
+namespace zvx::cat {
+
+namespace {
+
+std::array<const Command*, 3> AllCommands() {
+    return {&NewCommand(), &InfoCommand(), &SettingsCommand()};
+}
+
+}  // namespace
+
+const Command* FindCommand(std::string_view name) {
+    for (const Command* command : AllCommands()) {
+        if (name == command->name)
+            return command;
+    }
+    return nullptr;
+}
+
+void PrintToolHelp(std::ostream& out) {
+    out << "Usage: zvxcat COMMAND [ARGUMENTS]\n"
+           "       zvxcat COMMAND --help\n\n"
+           "Commands:\n";
+    for (const Command* command : AllCommands()) {
+        out << "  " << std::left << std::setw(10) << command->name << command->summary << "\n";
+    }
+    out << "\nExit status: 0 success, 1 failure, 2 wrong use.\n";
+}
+
+void PrintCommandHelp(const Command& command, std::ostream& out) {
+    out << command.usage;
+}
+
+}  // namespace zvx::cat

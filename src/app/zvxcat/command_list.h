@@ -1,0 +1,21 @@
+#pragma once
+// The commands zvxcat knows, in the order "zvxcat --help" lists them.
+
+#include <ostream>
+#include <string_view>
+
+#include "command.h"
+
+namespace zvx::cat {
+
+const Command& NewCommand();
+const Command& InfoCommand();
+const Command& SettingsCommand();
+
+// The command of that name, or nullptr.
+const Command* FindCommand(std::string_view name);
+
+void PrintToolHelp(std::ostream& out);
+void PrintCommandHelp(const Command& command, std::ostream& out);
+
+}  // namespace zvx::cat
