@@ -10,6 +10,9 @@ namespace zvx {
 
 class Common;
 
+// The copy that a write builds, in the work folder; it stays behind after the write.
+inline constexpr const char* kIniTempFile = "zvxini.tmp";
+
 // What a read gives: a number when the stored value is entirely a non-zero number,
 // otherwise the text ("0", "0005" and "1e3" are texts, "5" and "1.5" numbers).
 struct SettingValue {
@@ -32,12 +35,13 @@ struct SettingValue {
 // value stands in the file. Creates an empty zvx.ini when there is none.
 SettingValue ReadSetting(const Common& common, std::string_view key,
                          const SettingValue& defaultValue);
-SettingValue ReadSetting(const Common& common, std::string_view key,
-                         std::string_view defaultText);
+SettingValue ReadSetting(const Common& common, std::string_view key, std::string_view defaultText);
 SettingValue ReadSetting(const Common& common, std::string_view key, double defaultNumber);
 
 // Replaces every line of the key (an empty "KEY=" included) by KEY=value, or appends
-// it. Rewrites zvx.ini through zvxini.tmp in the work folder.
+// it. Rewrites zvx.ini through zvxini.tmp in the work folder. CR, LF and 01 in the key
+// or the value become blanks, so that a value can never break the file into lines.
+// A number is written as its decimal text.
 void WriteSetting(const Common& common, std::string_view key, std::string_view value);
 void WriteSetting(const Common& common, std::string_view key, double value);
 

@@ -1,0 +1,92 @@
+#include <gtest/gtest.h>
+
+#include "metadata/scan_scheme.h"
+#include "store/load_settings.h"
+#include "support/temp_folder.h"
+
+namespace zvx {
+namespace {
+
+class LoadSettingsTest : public ::testing::Test {
+  protected:
+    const LoadedSettings& load(const std::string& ini) {
+        test::WriteAll(env.folder / "zvx.ini", ini);
+        LoadSettings(env.common);
+        return env.common.settings;
+    }
+    test::TestEnvironment env;
+};
+
+TEST_F(LoadSettingsTest, AnEmptyFileGivesTheDefaults) {
+    env.common.settings.scanScheme = "$B";
+    env.common.settings.flattenControls = false;
+    env.common.settings.renumberingLevel = 3;
+    const LoadedSettings& s = load("");
+    EXPECT_EQ(s.caseMode, 2);
+    EXPECT_TRUE(s.flattenControls);
+    EXPECT_FALSE(s.allowViewBuffering);
+    EXPECT_FALSE(s.defaultSubViewing);
+    EXPECT_EQ(s.defaultListStyle, "Report");
+    EXPECT_EQ(s.defaultAudioType, "Audio: Album");
+    EXPECT_EQ(s.defaultComment, "");
+    EXPECT_TRUE(s.useEnhancedView && s.enhanceNormalView && s.allowFolderScan && s.allowFileScan &&
+                s.allowDetagging && s.allowNonMp3Detagging && s.songGotPriority);
+    EXPECT_EQ(s.scanScheme, "$A - $S");
+    EXPECT_FALSE(s.addNullSizedFiles);
+    EXPECT_EQ(s.renumberingLevel, 1);
+    EXPECT_TRUE(s.viewRenumbering);
+}
+
+TEST_F(LoadSettingsTest, StoredValuesAreLoaded) {
+    const LoadedSettings& s = load(
+        "PUBCASEMODE=4\r\nFLATTENCONTROLS=NO\r\nALLOWVIEWBUFFERING=YES\r\n"
+        "ALLOWFILESCAN=yes\r\nDEFAULTLISTSTYLE=Small Icons\r\nDEFAULTCOMMENT=5\r\n");
+    EXPECT_EQ(s.caseMode, 4);
+    EXPECT_FALSE(s.flattenControls);
+    EXPECT_TRUE(s.allowViewBuffering);
+    // Only the upper-case "YES" switches a key on.
+    EXPECT_FALSE(s.allowFileScan);
+    EXPECT_EQ(s.defaultListStyle, "Small Icons");
+    EXPECT_EQ(s.defaultComment, "5");
+}
+
+TEST_F(LoadSettingsTest, RenumberingLevelOutsideItsRangeLoadsAsOne) {
+    EXPECT_EQ(load("RENUMBERINGLEVEL=7\r\n").renumberingLevel, 1);
+    EXPECT_EQ(load("RENUMBERINGLEVEL=-1\r\n").renumberingLevel, 1);
+    EXPECT_EQ(load("RENUMBERINGLEVEL=1e30\r\n").renumberingLevel, 1);
+    EXPECT_EQ(load("RENUMBERINGLEVEL=3\r\nVIEWRENUMBERING=NO\r\n").renumberingLevel, 3);
+    EXPECT_FALSE(env.common.settings.viewRenumbering);
+}
+
+TEST_F(LoadSettingsTest, RenumberingLevelZeroLeavesTheViewingOff) {
+    const LoadedSettings& s = load("RENUMBERINGLEVEL=0\r\nVIEWRENUMBERING=YES\r\n");
+    EXPECT_EQ(s.renumberingLevel, 0);
+    EXPECT_FALSE(s.viewRenumbering);
+}
+
+TEST_F(LoadSettingsTest, ScanSchemeIsUpperCasedOrFallsBack) {
+    EXPECT_EQ(load("SCANSCHEME=$a - $s\r\n").scanScheme, "$A - $S");
+    EXPECT_EQ(load("SCANSCHEME=$p-$b - $i\r\n").scanScheme, "$P-$B - $I");
+    EXPECT_EQ(load("SCANSCHEME=$A - $X\r\n").scanScheme, "$A - $S");
+    EXPECT_EQ(load("SCANSCHEME=$N\r\n").scanScheme, "$A - $S");
+}
+
+TEST_F(LoadSettingsTest, ValidScanSchemeRemovesTheTokensInTheirOrder) {
+    EXPECT_TRUE(ValidScanScheme(""));
+    EXPECT_TRUE(ValidScanScheme(" $a $S - $B-$I "));
+    // "$P" goes first, which leaves a "$A" to go next.
+    EXPECT_TRUE(ValidScanScheme("$$PA"));
+    // "$S" goes after "$A", so the "$A" it leaves behind stays.
+    EXPECT_FALSE(ValidScanScheme("$$SA"));
+    EXPECT_FALSE(ValidScanScheme("$A_$S"));
+    EXPECT_FALSE(ValidScanScheme("$N - $S"));
+}
+
+TEST_F(LoadSettingsTest, IgnoreNullSizedFilesIsKeptInverted) {
+    EXPECT_TRUE(load("IGNORENULLSIZEDFILES=NO\r\n").addNullSizedFiles);
+    EXPECT_TRUE(load("IGNORENULLSIZEDFILES=yes\r\n").addNullSizedFiles);
+    EXPECT_FALSE(load("IGNORENULLSIZEDFILES=YES\r\n").addNullSizedFiles);
+}
+
+}  // namespace
+}  // namespace zvx
