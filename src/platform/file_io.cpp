@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <system_error>
 
 #include "platform/file_error.h"
@@ -48,6 +49,25 @@ void SyncFolderOf(const std::filesystem::path& path) {
         ::fsync(fd);
         ::close(fd);
     }
+}
+
+// A flushed copy of `source` under a fresh name in the target's folder.
+std::filesystem::path CopyBeside(const std::filesystem::path& source,
+                                 const std::filesystem::path& target) {
+    std::string name = target.string() + ".XXXXXX";
+    int fd = ::mkstemp(name.data());
+    if (fd < 0)
+        ThrowFileError("Cannot create a file beside", target);
+    ::close(fd);
+    try {
+        CopyFileBytes(source, name);
+        Fd copy(name, O_RDONLY, "Cannot open");
+        ::fsync(copy.get());
+    } catch (...) {
+        ::unlink(name.c_str());
+        throw;
+    }
+    return name;
 }
 
 }  // namespace
@@ -120,13 +140,7 @@ void ReplaceFile(const std::filesystem::path& source, const std::filesystem::pat
     if (errno != EXDEV)
         ThrowFileError("Cannot replace", target);
     // Another file system: copy beside the target first, so the rename stays atomic.
-    std::filesystem::path beside = target;
-    beside += ".zvxnew";
-    CopyFileBytes(source, beside);
-    {
-        Fd fd(beside, O_RDONLY, "Cannot open");
-        ::fsync(fd.get());
-    }
+    std::filesystem::path beside = CopyBeside(source, target);
     if (::rename(beside.c_str(), target.c_str()) != 0) {
         int err = errno;
         ::unlink(beside.c_str());

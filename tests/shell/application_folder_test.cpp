@@ -11,10 +11,13 @@ namespace {
 TEST(ApplicationFolder, FollowsTheEnvironmentThenThePortableInstall) {
     test::TempFolder temp;
     FolderEnvironment env{"", "/data", "/home/u", temp.path()};
+    env.xdgDataHome = "relative";  // ignored: it must be absolute
+    EXPECT_EQ(ResolveApplicationFolder(env), "/home/u/.local/share/zvx");
+    env.xdgDataHome = "/data";
     EXPECT_EQ(ResolveApplicationFolder(env), "/data/zvx");
     env.xdgDataHome.clear();
     EXPECT_EQ(ResolveApplicationFolder(env), "/home/u/.local/share/zvx");
-    test::WriteAll(temp / "zvx.ini", "");
+    test::WriteAll(temp / "ZVX.INI", "");
     EXPECT_EQ(ResolveApplicationFolder(env), temp.path());
     env.zvxHome = "/somewhere";
     EXPECT_EQ(ResolveApplicationFolder(env), "/somewhere");
