@@ -19,6 +19,7 @@ class SilentScreen : public Screen {
         return {};
     }
     std::string doubledetect(const DuplicateQuestion&) override { return kKeepOld; }
+    FileDialogResult fileDialog(const FileDialogRequest&) override { return {}; }
     void status(const std::string&) override {}
     void progress(long long, long long) override {}
 };

@@ -4,6 +4,8 @@
 // tests with a script.
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace zvx {
 
@@ -18,6 +20,25 @@ struct DuplicateQuestion {
     std::string newname, newsize, newdate;
 };
 
+// The shared file dialog: what it shows and what was chosen.
+struct FileDialogRequest {
+    std::string title;
+    std::string actionButton;  // the label of the button that accepts
+    std::string startFolder;
+    std::string fileName;  // the proposed name of a save dialog
+    // Label and pattern list of each filter, e.g. {"ZVX-Documents (*.zvx)", "*.zvx"}.
+    std::vector<std::pair<std::string, std::string>> filters;
+    int preselectedFilter = 1;  // 1-based
+    bool save = false;          // a save dialog; otherwise an open dialog
+    bool multiSelect = false;
+    bool readOnlyBox = false;  // an open dialog offers the read-only check box
+};
+
+struct FileDialogResult {
+    std::vector<std::string> paths;  // empty when cancelled
+    bool readOnly = false;           // the read-only box was ticked
+};
+
 class Screen {
   public:
     virtual ~Screen() = default;
@@ -30,6 +51,8 @@ class Screen {
                               const std::string& defaultText) = 0;
     // The duplicate dialog: gives "keepold", "keepall", "delold" or "delall".
     virtual std::string doubledetect(const DuplicateQuestion& question) = 0;
+    // The shared file dialog.
+    virtual FileDialogResult fileDialog(const FileDialogRequest& request) = 0;
     // The status bar's text; the empty text clears it.
     virtual void status(const std::string& text) = 0;
     // Progress of a long operation; a maximum of 0 hides the bar.

@@ -5,19 +5,23 @@
 namespace zvx::test {
 
 void ScriptedScreen::answerMessage(MsgAnswer answer) {
-    answers_.push_back({"message", answer, {}});
+    answers_.push_back({"message", answer, {}, {}});
 }
 void ScriptedScreen::answerInput(const std::string& text) {
-    answers_.push_back({"input", MsgAnswer::Ok, text});
+    answers_.push_back({"input", MsgAnswer::Ok, text, {}});
 }
 void ScriptedScreen::answerDuplicate(const std::string& choice) {
-    answers_.push_back({"doubledetect", MsgAnswer::Ok, choice});
+    answers_.push_back({"doubledetect", MsgAnswer::Ok, choice, {}});
+}
+
+void ScriptedScreen::answerFileDialog(const FileDialogResult& result) {
+    answers_.push_back({"filedialog", MsgAnswer::Ok, {}, result});
 }
 
 ScriptedScreen::Answer ScriptedScreen::take(const std::string& kind, const std::string& what) {
     if (answers_.empty() || answers_.front().kind != kind) {
         ADD_FAILURE() << "Unscripted " << kind << ": " << what;
-        return {kind, MsgAnswer::Cancel, kind == "doubledetect" ? "keepold" : ""};
+        return {kind, MsgAnswer::Cancel, kind == "doubledetect" ? "keepold" : "", {}};
     }
     Answer answer = answers_.front();
     answers_.pop_front();
@@ -43,6 +47,12 @@ std::string ScriptedScreen::doubledetect(const DuplicateQuestion& question) {
     shown.push_back({"doubledetect", "ZVX - Entry does already exist", question.newname});
     duplicates.push_back(question);
     return take("doubledetect", question.newname).text;
+}
+
+FileDialogResult ScriptedScreen::fileDialog(const FileDialogRequest& request) {
+    shown.push_back({"filedialog", request.title, request.startFolder});
+    fileDialogs.push_back(request);
+    return take("filedialog", request.title).files;
 }
 
 }  // namespace zvx::test

@@ -11,7 +11,7 @@
 namespace zvx::test {
 
 struct Shown {
-    std::string kind;  // "message", "input", "doubledetect"
+    std::string kind;  // "message", "input", "doubledetect", "filedialog"
     std::string caption;
     std::string text;
     MsgButtons buttons = MsgButtons::OkOnly;
@@ -24,12 +24,15 @@ class ScriptedScreen : public Screen {
     void answerMessage(MsgAnswer answer);
     void answerInput(const std::string& text);
     void answerDuplicate(const std::string& choice);
+    // An empty list of paths answers as Cancel.
+    void answerFileDialog(const FileDialogResult& result);
 
     MsgAnswer message(const std::string& caption, const std::string& text, MsgButtons buttons,
                       MsgIcon icon) override;
     std::string input(const std::string& caption, const std::string& prompt,
                       const std::string& defaultText) override;
     std::string doubledetect(const DuplicateQuestion& question) override;
+    FileDialogResult fileDialog(const FileDialogRequest& request) override;
     void status(const std::string& text) override { statuses.push_back(text); }
     void progress(long long value, long long maximum) override {
         lastProgress = value;
@@ -38,6 +41,7 @@ class ScriptedScreen : public Screen {
 
     std::vector<Shown> shown;
     std::vector<DuplicateQuestion> duplicates;
+    std::vector<FileDialogRequest> fileDialogs;
     std::vector<std::string> statuses;
     long long lastProgress = 0;
     long long lastProgressMax = 0;
@@ -50,6 +54,7 @@ class ScriptedScreen : public Screen {
         std::string kind;
         MsgAnswer message = MsgAnswer::Ok;
         std::string text;
+        FileDialogResult files;
     };
     Answer take(const std::string& kind, const std::string& what);
     std::deque<Answer> answers_;

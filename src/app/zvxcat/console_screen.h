@@ -39,6 +39,8 @@ class ConsoleScreen : public Screen {
     std::string input(const std::string& caption, const std::string& prompt,
                       const std::string& defaultText) override;
     std::string doubledetect(const DuplicateQuestion& question) override;
+    // A command line has no file dialog: paths come as arguments, so this is a cancel.
+    FileDialogResult fileDialog(const FileDialogRequest&) override { return {}; }
     void status(const std::string& text) override;
     void progress(long long value, long long maximum) override;
 
