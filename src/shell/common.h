@@ -11,6 +11,11 @@
 
 namespace zvx {
 
+// The version of the extension interface that extensions' requirements are compared with.
+inline constexpr int kExtensionInterfaceVersion = 110;
+// The status text when nothing is going on.
+inline constexpr const char* kIdleStatusText = "Ready.";
+
 class Common {
   public:
     // appFolder holds zvx.ini, CONFIG and PLUGINS; workFolder takes the temporary
@@ -48,6 +53,10 @@ class Common {
     long long folderIdCounter = 0;
     // A path LoadDoc takes instead of showing its dialog.
     std::string pendingDocument;
+    // Start folders of the file dialogs (lastsavepath, lastloadpath, lastaddpath).
+    std::string lastSavePath;
+    std::string lastLoadPath;
+    std::string lastAddPath;
 
     std::function<void(const std::string&)> onPlugStart;
     std::function<void()> onActiveDocumentChanged;
