@@ -1,0 +1,57 @@
+#include "ui/file_dialog.h"
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QGridLayout>
+
+#include "ui/text_codec.h"
+
+namespace zvx {
+
+QString FilterText(const std::string& label, const std::string& patterns) {
+    QString qtPatterns = ToQString(patterns).replace(';', ' ');
+    qtPatterns.replace("*.*", "*");
+    QString text = ToQString(label);
+    // The label names its patterns already, "ZVX-Documents (*.zvx)": give Qt the same.
+    int open = text.lastIndexOf('(');
+    if (open > 0)
+        text = text.left(open).trimmed();
+    return text + " (" + qtPatterns + ")";
+}
+
+FileDialogResult ShowFileDialog(QWidget* parent, const FileDialogRequest& request) {
+    QFileDialog dialog(parent, ToQString(request.title), ToQString(request.startFolder));
+    dialog.setObjectName("FileDialog");
+    // The widget dialog, so that the read-only box and the labels can be set.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(request.save          ? QFileDialog::AnyFile
+                       : request.multiSelect ? QFileDialog::ExistingFiles
+                                             : QFileDialog::ExistingFile);
+    dialog.setLabelText(QFileDialog::Accept, ToQString(request.actionButton));
+    dialog.setLabelText(QFileDialog::Reject, "Cancel");
+    QStringList filters;
+    for (const auto& [label, patterns] : request.filters)
+        filters << FilterText(label, patterns);
+    dialog.setNameFilters(filters);
+    if (request.preselectedFilter >= 1 && request.preselectedFilter <= filters.size())
+        dialog.selectNameFilter(filters[request.preselectedFilter - 1]);
+    if (!request.fileName.empty())
+        dialog.selectFile(ToQString(request.fileName));
+    QCheckBox* readOnly = nullptr;
+    if (request.readOnlyBox && !request.save) {
+        readOnly = new QCheckBox("Open as read-only", &dialog);
+        readOnly->setObjectName("ReadOnlyBox");
+        if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout()))
+            grid->addWidget(readOnly, grid->rowCount(), 0, 1, grid->columnCount());
+    }
+    FileDialogResult result;
+    if (dialog.exec() != QDialog::Accepted)
+        return result;
+    for (const QString& path : dialog.selectedFiles())
+        result.paths.push_back(FromQString(path));
+    result.readOnly = readOnly && readOnly->isChecked();
+    return result;
+}
+
+}  // namespace zvx
