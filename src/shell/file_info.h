@@ -1,0 +1,26 @@
+#pragma once
+// The information panel of the file dialogs (FileInfo): what the dialog's current
+// selection is, how big, and where.
+
+#include <string>
+#include <vector>
+
+namespace zvx {
+
+struct FileInfoTexts {
+    // The size: "<no file(s) selected!>", " (N bytes)" of one file, or
+    // "N files selected. (S bytes)"; empty for a folder.
+    std::string info;
+    // "<no file(s) selected!>", "Folder: " with a folder or a file's folder, or
+    // "Path: " with the folder of several files.
+    std::string folder;
+    // "Type: Folder" or "<multiple files selected>". For one file this is where its
+    // content type goes, which the content-type rules supply; empty until then.
+    std::string type;
+};
+
+// The texts for the paths the dialog shows: none, one, or several files. Each path
+// text ends at its first NUL. A file whose length cannot be read adds nothing.
+FileInfoTexts FileInfo(const std::vector<std::string>& paths);
+
+}  // namespace zvx

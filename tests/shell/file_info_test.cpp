@@ -1,0 +1,49 @@
+#include "shell/file_info.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/temp_folder.h"
+
+namespace zvx {
+namespace {
+
+using test::TempFolder;
+using test::WriteAll;
+
+TEST(FileInfo, NothingSelected) {
+    for (const auto& paths : {std::vector<std::string>{}, std::vector<std::string>{""},
+                              std::vector<std::string>{std::string("\0/tmp/a", 7)}}) {
+        const FileInfoTexts texts = FileInfo(paths);
+        EXPECT_EQ(texts.info, "<no file(s) selected!>");
+        EXPECT_EQ(texts.folder, "<no file(s) selected!>");
+    }
+}
+
+TEST(FileInfo, FolderAndSingleFile) {
+    TempFolder folder;
+    const FileInfoTexts forFolder = FileInfo({folder.path().string()});
+    EXPECT_EQ(forFolder.type, "Type: Folder");
+    EXPECT_EQ(forFolder.folder, "Folder: " + folder.path().string());
+
+    WriteAll(folder / "a.mp3", "12345");
+    // The text ends at the first NUL.
+    const FileInfoTexts forFile = FileInfo({(folder / "a.mp3").string() + std::string("\0b", 2)});
+    EXPECT_EQ(forFile.folder, "Folder: " + folder.path().string());
+    EXPECT_EQ(forFile.info, " (5 bytes)");
+}
+
+TEST(FileInfo, SeveralFiles) {
+    TempFolder folder;
+    WriteAll(folder / "a.mp3", "123");
+    WriteAll(folder / "b.mp3", "1234567");
+    const FileInfoTexts texts = FileInfo(
+        {(folder / "a.mp3").string(), (folder / "b.mp3").string(), (folder / "gone.mp3").string()});
+    EXPECT_EQ(texts.info, "3 files selected. (10 bytes)");
+    EXPECT_EQ(texts.type, "<multiple files selected>");
+    EXPECT_EQ(texts.folder, "Path: " + folder.path().string());
+}
+
+}  // namespace
+}  // namespace zvx

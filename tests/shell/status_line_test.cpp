@@ -1,0 +1,115 @@
+#include "shell/status_line.h"
+
+#include <gtest/gtest.h>
+
+#include "shell/estimator.h"
+
+namespace zvx {
+namespace {
+
+class FakeClock final : public Clock {
+  public:
+    double secondsSinceMidnight() const override { return now; }
+    double now = 1000;
+};
+
+TEST(EstimateText, AddsOneSecondAndTurnsToMinutesAtSixty) {
+    EXPECT_EQ(EstimateText(0), "ETR: 1 s");
+    EXPECT_EQ(EstimateText(58), "ETR: 59 s");
+    EXPECT_EQ(EstimateText(59), "ETR: 1 m 0 s");
+    EXPECT_EQ(EstimateText(130), "ETR: 2 m 11 s");
+}
+
+TEST(Estimator, RemainingTimeFromTheRateSoFar) {
+    FakeClock clock;
+    Estimator estimator(clock);
+    estimator.start();
+    clock.now += 29;
+    // 29 s for 1 of 3: 58 s for the other 2.
+    EXPECT_EQ(estimator.eStimaToR(1, 3), "ETR: 59 s");
+    clock.now += 30;
+    // 59 s for 1 of 2.
+    EXPECT_EQ(estimator.eStimaToR(1, 2), "ETR: 1 m 0 s");
+}
+
+TEST(Estimator, NothingForValueZeroOrWithinThreeSeconds) {
+    FakeClock clock;
+    Estimator estimator(clock);
+    estimator.start();
+    clock.now += 10;
+    EXPECT_FALSE(estimator.eStimaToR(0, 100));
+    ASSERT_TRUE(estimator.eStimaToR(10, 100));
+    clock.now += 2;
+    EXPECT_FALSE(estimator.eStimaToR(20, 100));
+    clock.now += 1;
+    EXPECT_TRUE(estimator.eStimaToR(20, 100));
+    clock.now += 3;
+    EXPECT_FALSE(estimator.eStimaToR(200, 100));  // a negative remainder
+}
+
+TEST(StatusLine, FirstTextBeginsTheOperation) {
+    FakeClock clock;
+    Estimator estimator(clock);
+    StatusLine line(estimator);
+    EXPECT_EQ(line.panelText(), "State: Ready.");
+
+    const StatusUpdate first = line.status("Adding...", 0, 0);
+    EXPECT_TRUE(first.operationStarts);
+    EXPECT_EQ(estimator.progressStart(), 1000);
+    EXPECT_EQ(first.panelText, "State: Adding...");
+    EXPECT_TRUE(first.busy);
+    EXPECT_FALSE(first.pollTimerOn);
+    EXPECT_TRUE(first.refreshNow);
+    EXPECT_FALSE(first.estimate);
+
+    clock.now += 20;
+    const StatusUpdate next = line.status("Reading...", 10, 20);
+    EXPECT_FALSE(next.operationStarts);
+    EXPECT_EQ(estimator.progressStart(), 1000);
+    EXPECT_TRUE(next.busy);
+    EXPECT_FALSE(next.refreshNow);
+    EXPECT_EQ(next.estimate, "ETR: 21 s");
+}
+
+TEST(StatusLine, TextAfterIdleContinuesARunningOperation) {
+    FakeClock clock;
+    Estimator estimator(clock);
+    StatusLine line(estimator);
+    const StatusUpdate update = line.status("Searching...", 5, 10);
+    EXPECT_FALSE(update.operationStarts);
+    EXPECT_TRUE(update.busy);
+    EXPECT_TRUE(update.refreshNow);
+}
+
+TEST(StatusLine, SameTextAgainOnlyEstimates) {
+    FakeClock clock;
+    Estimator estimator(clock);
+    StatusLine line(estimator);
+    line.status("Adding...", 0, 0);
+    clock.now += 5;
+    const StatusUpdate again = line.status("Adding...", 1, 2);
+    EXPECT_TRUE(again.repeated);
+    EXPECT_EQ(again.estimate, "ETR: 6 s");
+    EXPECT_FALSE(again.operationStarts);
+    EXPECT_FALSE(again.showDate);
+    EXPECT_EQ(line.panelText(), "State: Adding...");
+}
+
+TEST(StatusLine, EmptyTextEndsTheOperation) {
+    FakeClock clock;
+    Estimator estimator(clock);
+    StatusLine line(estimator);
+    line.status("Adding...", 0, 0);
+    const StatusUpdate end = line.status("", 0, 0);
+    EXPECT_FALSE(end.repeated);
+    EXPECT_EQ(end.panelText, "State: Ready.");
+    EXPECT_FALSE(end.busy);
+    EXPECT_TRUE(end.pollTimerOn);
+    EXPECT_TRUE(end.showDate);
+    EXPECT_FALSE(end.refreshNow);
+    // The next text begins a new operation.
+    EXPECT_TRUE(line.status("Exporting...", 0, 0).operationStarts);
+}
+
+}  // namespace
+}  // namespace zvx
