@@ -1,6 +1,7 @@
 #include "platform/file_io.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -68,6 +69,26 @@ std::filesystem::path CopyBeside(const std::filesystem::path& source,
         throw;
     }
     return name;
+}
+
+// Renames the flushed copy over the target, removing the copy when that fails.
+void RenameOver(const std::filesystem::path& beside, const std::filesystem::path& target) {
+    if (::rename(beside.c_str(), target.c_str()) != 0) {
+        int err = errno;
+        ::unlink(beside.c_str());
+        errno = err;
+        ThrowFileError("Cannot replace", target);
+    }
+    SyncFolderOf(target);
+}
+
+// The file a symbolic link points to, so that the link itself survives a replacement.
+std::filesystem::path FollowLink(const std::filesystem::path& path) {
+    std::error_code ec;
+    if (!std::filesystem::is_symlink(path, ec))
+        return path;
+    std::filesystem::path real = std::filesystem::canonical(path, ec);
+    return ec ? path : real;
 }
 
 }  // namespace
@@ -140,15 +161,17 @@ void ReplaceFile(const std::filesystem::path& source, const std::filesystem::pat
     if (errno != EXDEV)
         ThrowFileError("Cannot replace", target);
     // Another file system: copy beside the target first, so the rename stays atomic.
-    std::filesystem::path beside = CopyBeside(source, target);
-    if (::rename(beside.c_str(), target.c_str()) != 0) {
-        int err = errno;
-        ::unlink(beside.c_str());
-        errno = err;
-        ThrowFileError("Cannot replace", target);
-    }
-    SyncFolderOf(target);
+    RenameOver(CopyBeside(source, target), target);
     ::unlink(source.c_str());
+}
+
+void CopyFileSafely(const std::filesystem::path& from, const std::filesystem::path& to) {
+    std::filesystem::path target = FollowLink(to);
+    std::filesystem::path beside = CopyBeside(from, target);
+    struct stat old {};
+    if (::stat(target.c_str(), &old) == 0)
+        ::chmod(beside.c_str(), old.st_mode & 07777);
+    RenameOver(beside, target);
 }
 
 AppendWriter::AppendWriter(const std::filesystem::path& path) : path_(path) {

@@ -26,6 +26,11 @@ void CopyFileBytes(const std::filesystem::path& from, const std::filesystem::pat
 // moment either the old or the new file stands under the target's name.
 void ReplaceFile(const std::filesystem::path& source, const std::filesystem::path& target);
 
+// Copies `from` over `to`, crash-safely in the same way: the copy is written beside `to`,
+// flushed and renamed over it, so that the old `to` stays whole until the new one is
+// complete. An existing `to` keeps its permissions, and a symbolic link is followed.
+void CopyFileSafely(const std::filesystem::path& from, const std::filesystem::path& to);
+
 // Appends to a file (creating it) through a large buffer.
 class AppendWriter {
   public:
