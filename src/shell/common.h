@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "shell/loaded_settings.h"
 #include "shell/screen.h"
@@ -57,9 +58,15 @@ class Common {
     std::string lastSavePath;
     std::string lastLoadPath;
     std::string lastAddPath;
+    // The value of Firststart: "yes" until the welcome window has been closed once.
+    std::string firstStartMarker = "yes";
+    // The recent documents, newest first, at most ten (RecentAdd keeps the rule).
+    std::vector<std::string> Recentlist;
 
     std::function<void(const std::string&)> onPlugStart;
     std::function<void()> onActiveDocumentChanged;
+    // Rebuilds the recent-file menu from Recentlist (RecentRefresh); the window installs it.
+    std::function<void()> onRecentRefresh;
 
   private:
     std::filesystem::path appFolder_;

@@ -4,6 +4,7 @@
 
 #include "command.h"
 #include "shell/application_folder.h"
+#include "shell/start_checks.h"
 
 namespace zvx::cat {
 
@@ -26,10 +27,8 @@ std::filesystem::path PrepareApplicationFolder(Screen& screen) {
     std::filesystem::path folder =
         ResolveApplicationFolder(CurrentFolderEnvironment(ExecutableFolder()));
     if (IsRootFolder(folder)) {
-        screen.message("Hard-Error!",
-                       "ZVX cannot been started, if it is installed in the root-directory of a "
-                       "device!\r\nRe-Install ZVX in a valid folder and try again!",
-                       MsgButtons::OkOnly, MsgIcon::Critical);
+        screen.message(kRootRefusalCaption, kRootRefusalText, MsgButtons::OkOnly,
+                       MsgIcon::Critical);
         throw ToolFailure("the application folder is the root folder " + folder.string());
     }
     if (!EnsureFolder(folder)) {

@@ -1,0 +1,62 @@
+#include "shell/cleanup.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "platform/instance_lock.h"
+#include "support/temp_folder.h"
+
+namespace zvx {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Cleanup, RemovesWorkingCopiesThenTemporaryFilesAndNothingElse) {
+    test::TestEnvironment env;
+    for (const char* name : {"Document 1.tmp", "ZVXOPEN.TMP", "a.zvd", "B.ZvD"})
+        test::WriteAll(env.folder / name, "x");
+    for (const char* name : {"zvx.ini", "notes.txt", "a.tmpx", "tmp", kInstanceLockFile})
+        test::WriteAll(env.folder / name, "keep");
+    fs::create_directory(env.folder / "folder.tmp");
+    fs::create_directory(env.folder / "CONFIG");
+    test::WriteAll(env.folder / "CONFIG" / "inside.tmp", "keep");
+
+    std::vector<std::pair<long long, long long>> calls;
+    bool workingCopiesFirst = true;
+    RemoveTemporaryFiles(env.common, [&](long long done, long long total) {
+        calls.emplace_back(done, total);
+        if (done == 2) {
+            workingCopiesFirst = !fs::exists(env.folder / "a.zvd") &&
+                                 !fs::exists(env.folder / "B.ZvD") &&
+                                 fs::exists(env.folder / "ZVXOPEN.TMP");
+        }
+    });
+
+    std::vector<std::pair<long long, long long>> expected = {
+        {0, 4}, {1, 4}, {2, 4}, {3, 4}, {4, 4}};
+    EXPECT_EQ(calls, expected);
+    EXPECT_TRUE(workingCopiesFirst);
+    std::vector<std::string> left;
+    for (const fs::directory_entry& entry : fs::directory_iterator(env.folder.path()))
+        left.push_back(entry.path().filename().string());
+    std::sort(left.begin(), left.end());
+    std::vector<std::string> kept = {"CONFIG", "a.tmpx",  "folder.tmp", "notes.txt",
+                                     "tmp",    "zvx.ini", "zvx.lock"};
+    EXPECT_EQ(left, kept);
+    EXPECT_TRUE(fs::exists(env.folder / "CONFIG" / "inside.tmp"));
+}
+
+TEST(Cleanup, AnEmptyFolderReportsNothingToDo) {
+    test::TestEnvironment env;
+    std::vector<std::pair<long long, long long>> calls;
+    RemoveTemporaryFiles(env.common,
+                         [&](long long done, long long total) { calls.emplace_back(done, total); });
+    std::vector<std::pair<long long, long long>> expected = {{0, 0}};
+    EXPECT_EQ(calls, expected);
+}
+
+}  // namespace
+}  // namespace zvx
