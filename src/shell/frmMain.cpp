@@ -1,0 +1,204 @@
+#include "shell/frmMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTimer>
+
+#include "document/frmDocument.h"
+#include "shell/cleanup_window.h"
+#include "shell/command_file.h"
+#include "shell/command_table.h"
+#include "shell/common.h"
+#include "shell/frmSplash.h"
+#include "shell/recent_list.h"
+#include "shell/window_arrangement.h"
+#include "ui/about.h"
+#include "ui/icons.h"
+#include "ui/news_panel.h"
+#include "ui/text_codec.h"
+
+namespace zvx {
+
+frmMain::frmMain(Common& common, Desktop& desktop, const Clock& clock)
+    : common_(common), desktop_(desktop), estimator_(clock), statusLine_(estimator_) {
+    setObjectName("frmMain");
+    setWindowTitle("ZVX");
+    setWindowIcon(ThemeIcon("zvx"));
+    mdi_ = new QMdiArea;
+    mdi_->setObjectName("MDIClient");
+    setCentralWidget(mdi_);
+    news_ = new NewsPanel(this);
+    addDockWidget(Qt::RightDockWidgetArea, news_);
+
+    lifecycle_ = std::make_unique<DocumentLifecycle>(
+        common_, *this, [this](const std::string& path) { RecentAdd(common_, path); });
+    common_.onRecentRefresh = [this] { RecentRefresh(); };
+    poll_ = std::make_unique<CommandFilePoll>(
+        common_,
+        [this] {
+            raise();
+            activateWindow();
+        },
+        [this](const std::string&) { lifecycle_->LoadDoc(); });
+
+    buildMenus();
+    buildToolBars();
+    buildStatusBar();
+    connect(mdi_, &QMdiArea::subWindowActivated, this, [this] { updateDocumentState(); });
+}
+
+frmMain::~frmMain() {
+    common_.onRecentRefresh = nullptr;
+}
+
+void frmMain::MDIForm_Load() {
+    LoadRecentList(common_);
+    RecentRefresh();
+    WindowSettings settings = LoadWindowSettings(common_);
+    applyWindowSettings(settings);
+    bars_ = settings.bars;
+    barmenustate();
+    updateDocumentState();
+}
+
+void frmMain::ZVXCoreCalls(const std::string& name) {
+    ResolvedCommand resolved = ResolveCommand(name);
+    switch (resolved.command) {
+        case Command::ToolbarsStandard:
+            toggleBar(0);
+            break;
+        case Command::ToolbarsProgress:
+            toggleBar(3);
+            break;
+        case Command::ToolbarsNewsclient:
+            toggleNewsPanel();
+            break;
+        case Command::WindowsCascade:
+            ArrangeSubWindows(mdi_, Arrangement::Cascade);
+            break;
+        case Command::WindowsTile:
+            ArrangeSubWindows(mdi_, Arrangement::TileHorizontal);
+            break;
+        case Command::WindowsSplit:
+            ArrangeSubWindows(mdi_, Arrangement::TileVertical);
+            break;
+        case Command::WindowsArrangeIcons:
+            ArrangeSubWindows(mdi_, Arrangement::Icons);
+            break;
+        case Command::About:
+            showAbout();
+            break;
+        case Command::DocumentNew:
+            lifecycle_->LoadNewDoc();
+            break;
+        case Command::DocumentOpen:
+            lifecycle_->LoadDoc();
+            break;
+        case Command::DocumentSave:
+            if (Document* document = lifecycle_->active())
+                lifecycle_->SaveDoc(*document);
+            break;
+        case Command::DocumentSaveAs:
+            if (Document* document = lifecycle_->active())
+                lifecycle_->SaveAsDoc(*document);
+            break;
+        case Command::DocumentClose:
+            if (QMdiSubWindow* window = mdi_->currentSubWindow())
+                window->close();
+            break;
+        case Command::Quit:
+            AskQuit();
+            break;
+        case Command::RecentFile:
+            openRecent(resolved.argument);
+            break;
+        case Command::None:
+            break;
+    }
+}
+
+void frmMain::AskQuit() {
+    MsgAnswer answer = common_.screen().message("Closing ZVX...",
+                                                "Are you sure that you want to quit ZVX already?",
+                                                MsgButtons::YesNo, MsgIcon::Question);
+    if (answer == MsgAnswer::Yes)
+        close();
+}
+
+void frmMain::openRecent(const std::string& number) {
+    QAction* entry = menuEntry(QString::fromStdString("recentfile" + number));
+    if (!entry)
+        return;
+    common_.pendingDocument = FromQString(entry->data().toString());
+    lifecycle_->LoadDoc();
+}
+
+void frmMain::showAbout() {
+    frmAbout about(desktop_, this);
+    about.exec();
+}
+
+void frmMain::setSplash(frmSplash* splash) {
+    splash_ = splash;
+    if (splash_)
+        connect(splash_, &QObject::destroyed, this, [this] { splash_ = nullptr; });
+}
+
+void frmMain::nosplash() {
+    if (splash_ && splash_->isVisible())
+        splash_->close();
+}
+
+DocumentView* frmMain::createView(const std::string& caption) {
+    auto* document = new frmDocument;
+    document->setCaption(caption);
+    QMdiSubWindow* window = mdi_->addSubWindow(document);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowIcon(ThemeIcon("document-open"));
+    document->onClose = [this, document] {
+        if (Document* open = lifecycle_->find(document))
+            lifecycle_->Close(*open);
+        // The window goes after this; the state follows the next active one.
+        QTimer::singleShot(0, this, [this] { updateDocumentState(); });
+    };
+    window->show();
+    mdi_->setActiveSubWindow(window);
+    return document;
+}
+
+void frmMain::closeView(DocumentView* view) {
+    for (QMdiSubWindow* window : mdi_->subWindowList()) {
+        if (dynamic_cast<DocumentView*>(window->widget()) == view) {
+            window->close();
+            return;
+        }
+    }
+}
+
+DocumentView* frmMain::activeView() const {
+    QMdiSubWindow* window = mdi_->currentSubWindow();
+    return window ? dynamic_cast<DocumentView*>(window->widget()) : nullptr;
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (unloaded_) {
+        event->accept();
+        return;
+    }
+    unloaded_ = true;
+    common_.PLUGSTART("ZVXQUIT");
+    status("Closing ZVX...");
+    StoreWindowSettings(common_, currentWindowSettings());
+    for (QMdiSubWindow* window : mdi_->subWindowList())
+        window->close();
+    cleanup window(common_, this);
+    window.unloadNewsClient = [this] { news_->close(); };
+    window.exec();
+    event->accept();
+    if (onUnloaded)
+        onUnloaded();
+}
+
+}  // namespace zvx

@@ -1,0 +1,123 @@
+#pragma once
+// The main window: the frame of the document windows, the menus, the tool bars, the
+// status bar and the timers. Every command arrives here by name at ZVXCoreCalls.
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "document/document_lifecycle.h"
+#include "document/document_view.h"
+#include "shell/estimator.h"
+#include "shell/status_line.h"
+#include "shell/tool_bar.h"
+#include "shell/window_settings.h"
+
+class QAction;
+class QLabel;
+class QMdiArea;
+class QMenu;
+class QProgressBar;
+class QTimer;
+class QToolBar;
+
+namespace zvx {
+
+class Clock;
+class Common;
+class Desktop;
+class NewsPanel;
+class frmSplash;
+
+class frmMain : public QMainWindow, public DocumentWindows {
+    Q_OBJECT
+  public:
+    // Questions go to the common module's Screen; the front end routes the Screen's
+    // status and progress to status() and progress().
+    frmMain(Common& common, Desktop& desktop, const Clock& clock);
+    ~frmMain() override;
+
+    // The load handler: recent files, geometry, bars, panels, the empty selection.
+    void MDIForm_Load();
+
+    // Runs the command of a name; an unknown name is ignored.
+    void ZVXCoreCalls(const std::string& name);
+    // Asks whether to quit; on Yes the window unloads and the process ends.
+    void AskQuit();
+
+    // Status bar: the status text, the estimate, the selection summary.
+    void status(const std::string& text);
+    void eStimaToR();
+    void progress(long long value, long long maximum);
+    void setSummary(const QString& text);
+
+    void RecentRefresh();
+    void barmenustate();
+    void RealSelectionizer(const SelectionState& state, bool keepFolderItems);
+    // Applies the active document's selection to menus and tool bar (none: all off).
+    void updateDocumentState();
+
+    // The splash window of the start, removed by nosplash.
+    void setSplash(frmSplash* splash);
+    void nosplash();
+
+    DocumentLifecycle& lifecycle() { return *lifecycle_; }
+    NewsPanel* newsPanel() const { return news_; }
+    QMdiArea* mdiArea() const { return mdi_; }
+    QAction* menuEntry(const QString& key) const;
+    // The window has been unloaded: the process is ending.
+    bool unloaded() const { return unloaded_; }
+    // Called at the end of the unload; the program ends its event loop there.
+    std::function<void()> onUnloaded;
+
+    // DocumentWindows
+    DocumentView* createView(const std::string& caption) override;
+    void closeView(DocumentView* view) override;
+    DocumentView* activeView() const override;
+
+  protected:
+    // The unload handler: ZVXQUIT, the lasting settings, the documents' own close
+    // sequences, the clean-up window, and the end of the process.
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void buildMenus();
+    void buildToolBars();
+    void buildStatusBar();
+    QAction* addEntry(QMenu* menu, const char* key, const QString& caption,
+                      const QString& icon = {}, const QKeySequence& keys = {});
+    void toggleBar(int index);
+    void toggleNewsPanel();
+    void openRecent(const std::string& number);
+    void showAbout();
+    void applyWindowSettings(const WindowSettings& settings);
+    WindowSettings currentWindowSettings() const;
+    void pollCommandFile();
+    void resetProgressBar();
+    void showDate();
+
+    Common& common_;
+    Desktop& desktop_;
+    Estimator estimator_;
+    StatusLine statusLine_;
+    std::unique_ptr<DocumentLifecycle> lifecycle_;
+    std::unique_ptr<class CommandFilePoll> poll_;
+    QMdiArea* mdi_;
+    NewsPanel* news_;
+    QMenu* fileMenu_ = nullptr;
+    QAction* recentTOP_ = nullptr;
+    QToolBar* Toolbar1_ = nullptr;
+    QToolBar* ProgressBand_ = nullptr;
+    QProgressBar* ProgressBar1_ = nullptr;
+    QLabel* panels_[3] = {};
+    QTimer* Timer1_;
+    QTimer* Timer2_;
+    QTimer* Timer5_;
+    BarFlags bars_ = {true, false, false, true};
+    frmSplash* splash_ = nullptr;
+    bool busy_ = false;
+    bool unloaded_ = false;
+};
+
+}  // namespace zvx

@@ -1,0 +1,113 @@
+// The main window's menus, the recent-file entries and the bar toggles.
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "document/frmDocument.h"
+#include "shell/common.h"
+#include "shell/frmMain.h"
+#include "shell/recent_list.h"
+#include "ui/icons.h"
+#include "ui/news_panel.h"
+#include "ui/text_codec.h"
+
+namespace zvx {
+
+QAction* frmMain::addEntry(QMenu* menu, const char* key, const QString& caption,
+                           const QString& icon, const QKeySequence& keys) {
+    QAction* action = menu->addAction(icon.isEmpty() ? QIcon() : ThemeIcon(icon), caption);
+    action->setObjectName(key);
+    action->setShortcut(keys);
+    const std::string command = QString(key).toLower().toStdString();
+    connect(action, &QAction::triggered, this, [this, command] { ZVXCoreCalls(command); });
+    return action;
+}
+
+void frmMain::buildMenus() {
+    fileMenu_ = menuBar()->addMenu("&File");
+    fileMenu_->setObjectName("mnufileTOP");
+    addEntry(fileMenu_, "mnufile0", "&New", "document-new", QKeySequence::New);
+    addEntry(fileMenu_, "mnufile1", "&Open...", "document-open", QKeySequence::Open);
+    addEntry(fileMenu_, "mnufile2", "&Save", "document-save", QKeySequence::Save);
+    addEntry(fileMenu_, "mnufile3", "Save &As...", "document-save-as", QKeySequence::SaveAs);
+    addEntry(fileMenu_, "mnufile4", "&Close", "document-close", QKeySequence::Close);
+    recentTOP_ = fileMenu_->addSeparator();
+    recentTOP_->setObjectName("recentTOP");
+    fileMenu_->addSeparator();
+    addEntry(fileMenu_, "mnufile6", "&Quit", "application-exit", QKeySequence::Quit);
+
+    QMenu* view = menuBar()->addMenu("&View");
+    view->setObjectName("mnuviewTOP");
+    QMenu* bars = view->addMenu("&Toolbars");
+    bars->setObjectName("mbarTOP");
+    addEntry(bars, "mbarstandard", "&Standard")->setCheckable(true);
+    addEntry(bars, "mbarprogress", "&Progress")->setCheckable(true);
+    addEntry(bars, "newsclientbar", "&News")->setCheckable(true);
+    QAction* statusBarEntry = view->addAction("Status &Bar");
+    statusBarEntry->setObjectName("mnuViewStatusBar");
+    statusBarEntry->setCheckable(true);
+    connect(statusBarEntry, &QAction::triggered, this,
+            [this](bool shown) { statusBar()->setVisible(shown); });
+
+    QMenu* windows = menuBar()->addMenu("&Window");
+    windows->setObjectName("mnuwinTOP");
+    addEntry(windows, "mnuwin0", "&Cascade", "window-cascade");
+    addEntry(windows, "mnuwin1", "Tile &Horizontally");
+    addEntry(windows, "mnuwin2", "Tile &Vertically");
+    addEntry(windows, "mnuwin3", "&Arrange Icons");
+
+    QMenu* help = menuBar()->addMenu("&Help");
+    help->setObjectName("mnuhelpTOP");
+    addEntry(help, "mnuhelpabout", "&About ZVX...", "help-about");
+}
+
+QAction* frmMain::menuEntry(const QString& key) const {
+    return findChild<QAction*>(key);
+}
+
+void frmMain::RecentRefresh() {
+    for (QAction* entry : fileMenu_->actions()) {
+        if (entry->objectName().startsWith("recentfile")) {
+            fileMenu_->removeAction(entry);
+            entry->deleteLater();
+        }
+    }
+    QAction* before = nullptr;
+    const QList<QAction*> entries = fileMenu_->actions();
+    int top = entries.indexOf(recentTOP_);
+    if (top + 1 < entries.size())
+        before = entries[top + 1];
+    const auto& paths = common_.Recentlist;
+    for (size_t i = 0; i < paths.size(); ++i) {
+        auto* entry =
+            new QAction(ToQString(RecentCaption(static_cast<int>(i) + 1, paths[i])), this);
+        const std::string key = "recentfile" + std::to_string(i);
+        entry->setObjectName(QString::fromStdString(key));
+        entry->setData(ToQString(paths[i]));
+        connect(entry, &QAction::triggered, this, [this, key] { ZVXCoreCalls(key); });
+        fileMenu_->insertAction(before, entry);
+    }
+}
+
+void frmMain::barmenustate() {
+    const bool coolBar = CoolBarVisible(bars_);
+    Toolbar1_->setVisible(coolBar && bars_[0]);
+    ProgressBand_->setVisible(coolBar && bars_[3]);
+    menuEntry("mbarstandard")->setChecked(bars_[0]);
+    menuEntry("mbarprogress")->setChecked(bars_[3]);
+}
+
+void frmMain::toggleBar(int index) {
+    bars_[index] = !bars_[index];
+    barmenustate();
+}
+
+void frmMain::toggleNewsPanel() {
+    news_->setVisible(news_->isHidden());
+    menuEntry("newsclientbar")->setChecked(!news_->isHidden());
+}
+
+}  // namespace zvx

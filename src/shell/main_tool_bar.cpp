@@ -1,0 +1,111 @@
+// The main window's tool bars and the enabling of their items by the selection.
+
+#include <QMenu>
+#include <QProgressBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "shell/frmMain.h"
+#include "shell/selection_update.h"
+#include "ui/icons.h"
+
+namespace zvx {
+
+namespace {
+
+// The theme icon of each button of the standard bar, by its label.
+QString IconOfButton(std::string_view label) {
+    static const std::pair<std::string_view, const char*> icons[] = {
+        {"New", "document-new"},   {"Load", "document-open"},
+        {"Save", "document-save"}, {"Options", "preferences-system"},
+        {"Find", "edit-find"},     {"Folder", "folder"},
+        {"Add", "list-add"},       {"Edit", "document-edit"},
+        {"About", "help-about"}};
+    for (const auto& [name, icon] : icons)
+        if (name == label)
+            return icon;
+    return {};
+}
+
+QString Text(std::string_view text) {
+    return QString::fromUtf8(text.data(), text.size());
+}
+
+}  // namespace
+
+void frmMain::buildToolBars() {
+    Toolbar1_ = addToolBar("Standard");
+    Toolbar1_->setObjectName("Toolbar1");
+    Toolbar1_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    for (const ToolButton& spec : MainToolBar()) {
+        if (spec.separator) {
+            Toolbar1_->addSeparator();
+            continue;
+        }
+        auto* button = new QToolButton;
+        button->setObjectName(Text(spec.tag));
+        button->setProperty("tag", Text(spec.tag));
+        button->setText(Text(spec.label));
+        button->setToolTip(Text(spec.toolTip));
+        button->setIcon(ThemeIcon(IconOfButton(spec.label)));
+        button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        button->setAutoRaise(true);
+        const std::string command = CommandOfTag(spec.tag);
+        connect(button, &QToolButton::clicked, this, [this, command] { ZVXCoreCalls(command); });
+        if (!spec.dropDown.empty()) {
+            auto* menu = new QMenu(button);
+            for (const ToolDropDownItem& item : spec.dropDown) {
+                QAction* action = menu->addAction(Text(item.label));
+                action->setProperty("tag", Text(item.tag));
+                const std::string itemCommand = CommandOfTag(item.tag);
+                connect(action, &QAction::triggered, this,
+                        [this, itemCommand] { ZVXCoreCalls(itemCommand); });
+            }
+            button->setMenu(menu);
+            button->setPopupMode(QToolButton::MenuButtonPopup);
+        }
+        Toolbar1_->addWidget(button);
+    }
+    ProgressBand_ = addToolBar("Progress");
+    ProgressBand_->setObjectName("ProgressBand");
+    ProgressBar1_ = new QProgressBar;
+    ProgressBar1_->setObjectName("ProgressBar1");
+    ProgressBar1_->setTextVisible(false);
+    ProgressBar1_->setMaximumWidth(240);
+    ProgressBand_->addWidget(ProgressBar1_);
+}
+
+void frmMain::RealSelectionizer(const SelectionState& state, bool keepFolderItems) {
+    for (QToolButton* button : Toolbar1_->findChildren<QToolButton*>()) {
+        const QString tag = button->property("tag").toString();
+        if (tag.isEmpty())
+            continue;
+        button->setEnabled(
+            ToolItemEnabled(tag.toStdString(), state, keepFolderItems, button->isEnabled()));
+        if (!button->menu())
+            continue;
+        for (QAction* item : button->menu()->actions()) {
+            item->setEnabled(ToolItemEnabled(item->property("tag").toString().toStdString(), state,
+                                             keepFolderItems, item->isEnabled()));
+        }
+    }
+}
+
+void frmMain::updateDocumentState() {
+    if (!activeView()) {
+        for (const char* key : {"mnufile2", "mnufile3", "mnufile4"})
+            if (QAction* entry = menuEntry(key))
+                entry->setEnabled(false);
+        RealSelectionizer(kNoDocumentState, false);
+        return;
+    }
+    // The tree and the list report their facts once they hold folders and entries.
+    SelectionUpdate update = selecTionIzer(SelectionFacts{}, false, false);
+    for (const MenuInstruction& instruction : update.menus)
+        if (QAction* entry = menuEntry(
+                QString::fromUtf8(instruction.menuKey.data(), instruction.menuKey.size())))
+            entry->setEnabled(instruction.enabled);
+    RealSelectionizer(update.state, false);
+}
+
+}  // namespace zvx

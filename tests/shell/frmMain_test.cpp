@@ -1,0 +1,153 @@
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <filesystem>
+
+#include "main_window_fixture.h"
+#include "shell/common.h"
+#include "shell/recent_list.h"
+#include "store/settings.h"
+#include "support/catalogue_bytes.h"
+
+namespace zvx {
+namespace {
+
+using test::MainWindowTest;
+
+QString PanelText(frmMain& main, const char* panel) {
+    return main.findChild<QLabel*>(panel)->text();
+}
+
+bool ButtonEnabled(frmMain& main, const char* tag) {
+    return main.findChild<QToolButton*>(tag)->isEnabled();
+}
+
+TEST_F(MainWindowTest, NewDocumentsAreNumberedAndAskToBeSavedOnClose) {
+    main->ZVXCoreCalls("document_new");
+    main->ZVXCoreCalls("mnufile0");
+    ASSERT_EQ(documents().size(), 2);
+    EXPECT_EQ(documents()[0]->windowTitle(), "Document 1");
+    EXPECT_EQ(documents()[1]->windowTitle(), "Document 2");
+    EXPECT_TRUE(std::filesystem::exists(env.folder / "Document 2.tmp"));
+    screenshot(main.get(), "main_window_two_documents");
+
+    env.screen.answerMessage(MsgAnswer::No);
+    main->ZVXCoreCalls("document_close");
+    ASSERT_FALSE(env.screen.shown.empty());
+    EXPECT_EQ(env.screen.shown.back().text,
+              "Would you like to save the changes in: \"Document 2\" ?");
+    EXPECT_FALSE(std::filesystem::exists(env.folder / "Document 2.tmp"));
+    EXPECT_EQ(env.screen.unanswered(), 0u);
+}
+
+TEST_F(MainWindowTest, AnOpenedDocumentClosesWithoutAQuestion) {
+    const auto file = env.folder / "music.zvx";
+    test::WriteAll(file, test::CatalogueBytes({}, {}));
+    env.common.pendingDocument = file.string();
+    main->ZVXCoreCalls("document_open");
+    ASSERT_EQ(documents().size(), 1);
+    EXPECT_EQ(documents()[0]->windowTitle(), QString::fromStdString(file.string()));
+    const size_t questions = env.screen.shown.size();
+    main->ZVXCoreCalls("document_close");
+    EXPECT_EQ(env.screen.shown.size(), questions);
+    EXPECT_TRUE(documents().isEmpty());
+    // The recent list has it, as its first entry.
+    QAction* recent = main->menuEntry("recentfile0");
+    ASSERT_NE(recent, nullptr);
+    EXPECT_EQ(recent->text(), QString::fromStdString("0&1 " + file.string()));
+}
+
+TEST_F(MainWindowTest, ToolBarFollowsTheActiveDocument) {
+    EXPECT_TRUE(ButtonEnabled(*main, "xxxx_document_new"));
+    EXPECT_FALSE(ButtonEnabled(*main, "dxxx_document_save"));
+    EXPECT_FALSE(main->menuEntry("mnufile2")->isEnabled());
+    main->ZVXCoreCalls("document_new");
+    EXPECT_TRUE(ButtonEnabled(*main, "dxxx_document_save"));
+    EXPECT_FALSE(ButtonEnabled(*main, "dexx_entry_editstart"));  // no entry selected
+    EXPECT_TRUE(main->menuEntry("mnufile2")->isEnabled());
+}
+
+TEST_F(MainWindowTest, BarsAndPanelsToggleByCommand) {
+    auto* standard = main->findChild<QToolBar*>("Toolbar1");
+    auto* progress = main->findChild<QToolBar*>("ProgressBand");
+    EXPECT_FALSE(standard->isHidden());
+    main->ZVXCoreCalls("zvx_toolbars_standard");
+    EXPECT_TRUE(standard->isHidden());
+    EXPECT_FALSE(main->menuEntry("mbarstandard")->isChecked());
+    main->ZVXCoreCalls("mbarprogress");
+    EXPECT_TRUE(progress->isHidden());
+    main->ZVXCoreCalls("mbarstandard");
+    EXPECT_FALSE(standard->isHidden());
+    EXPECT_TRUE(main->menuEntry("mbarstandard")->isChecked());
+}
+
+TEST_F(MainWindowTest, StatusShowsTheTextAndReturnsToReady) {
+    EXPECT_EQ(PanelText(*main, "Panel2"), "State: Ready.");
+    main->status("Saving ZVX...");
+    EXPECT_EQ(PanelText(*main, "Panel2"), "State: Saving ZVX...");
+    main->status("");
+    EXPECT_EQ(PanelText(*main, "Panel2"), "State: Ready.");
+}
+
+TEST_F(MainWindowTest, UnknownCommandsAreIgnored) {
+    main->ZVXCoreCalls("folder_create");  // its window comes with the folder tree
+    main->ZVXCoreCalls("DOCUMENT_NEW");   // names compare exactly
+    main->ZVXCoreCalls("");
+    EXPECT_TRUE(documents().isEmpty());
+    EXPECT_TRUE(env.screen.shown.empty());
+}
+
+TEST_F(MainWindowTest, QuitAsksAndNoKeepsEverything) {
+    env.screen.answerMessage(MsgAnswer::No);
+    main->ZVXCoreCalls("zvx_quit");
+    EXPECT_EQ(env.screen.shown.back().caption, "Closing ZVX...");
+    EXPECT_EQ(env.screen.shown.back().text, "Are you sure that you want to quit ZVX already?");
+    EXPECT_FALSE(main->unloaded());
+}
+
+TEST_F(MainWindowTest, UnloadStoresTheStateAndCleansTheFolder) {
+    main->ZVXCoreCalls("document_new");
+    test::WriteAll(env.folder / "leftover.TMP", "x");
+    test::WriteAll(env.folder / "current.zvd", "x");
+    RecentAdd(env.common, "/data/a.zvx");
+    main->ZVXCoreCalls("zvx_toolbars_progress");
+    env.screen.answerMessage(MsgAnswer::No);  // the new document's save question
+    bool ended = false;
+    main->onUnloaded = [&ended] { ended = true; };
+    main->close();
+    EXPECT_TRUE(ended);
+    EXPECT_EQ(ReadSetting(env.common, "SHOWBAR4", "").toText(), "NO");
+    EXPECT_EQ(ReadSetting(env.common, "SHOWBAR1", "").toText(), "YES");
+    EXPECT_EQ(ReadSetting(env.common, "RECENTFILE1", "").toText(), "/data/a.zvx");
+    for (const auto& entry : std::filesystem::directory_iterator(env.folder.path())) {
+        const std::string ext = entry.path().extension().string();
+        EXPECT_TRUE(ext != ".tmp" && ext != ".TMP" && ext != ".zvd") << entry.path();
+    }
+}
+
+TEST_F(MainWindowTest, AHandedOverPathOpensAtTheNextPoll) {
+    const auto file = env.folder / "handed.zvx";
+    test::WriteAll(file, test::CatalogueBytes({}, {}));
+    test::WriteAll(env.folder / "zvxopen.tmp", file.string() + "\r\n" + file.string() + "\r\n");
+    QTimer* poll = main->findChild<QTimer*>("Timer2");
+    ASSERT_TRUE(poll->isActive());
+    QMetaObject::invokeMethod(poll, "timeout", Qt::DirectConnection);
+    ASSERT_EQ(documents().size(), 1);  // the same path twice in a row loads once
+    EXPECT_FALSE(std::filesystem::exists(env.folder / "zvxopen.tmp"));
+}
+
+TEST_F(MainWindowTest, AboutShowsTheVersion) {
+    QTimer::singleShot(0, [] {
+        QWidget* about = QApplication::activeModalWidget();
+        ASSERT_NE(about, nullptr);
+        EXPECT_EQ(about->objectName(), "frmAbout");
+        about->close();
+    });
+    main->ZVXCoreCalls("zvx_about");
+}
+
+}  // namespace
+}  // namespace zvx
