@@ -4,4 +4,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 bash tools/setup.sh
 bash tools/build.sh
-exec build/bin/zvxcat --help
+exec build/bin/zvx "$@"

@@ -7,11 +7,12 @@
 #include <QTreeView>
 #include <QTreeWidget>
 
+#include "shell/common.h"
 #include "ui/text_codec.h"
 
 namespace zvx {
 
-frmDocument::frmDocument(QWidget* parent) : QWidget(parent) {
+frmDocument::frmDocument(Common& common, QWidget* parent) : QWidget(parent), common_(common) {
     setObjectName("frmDocument");
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -40,8 +41,10 @@ void frmDocument::setCaption(const std::string& text) {
 }
 
 // The tree and the list are filled from the working copy by the folder and listing
-// code; until a document has them, a refresh has nothing to rebuild.
-void frmDocument::refresh_Click() {}
+// code; until a document has them, a refresh only ends the operation it closes.
+void frmDocument::refresh_Click() {
+    common_.screen().status("");
+}
 
 void frmDocument::closeEvent(QCloseEvent* event) {
     if (onClose) {

@@ -13,10 +13,12 @@ class QTreeWidget;
 
 namespace zvx {
 
+class Common;
+
 class frmDocument : public QWidget, public DocumentView {
     Q_OBJECT
   public:
-    explicit frmDocument(QWidget* parent = nullptr);
+    explicit frmDocument(Common& common, QWidget* parent = nullptr);
 
     std::string caption() const override;
     void setCaption(const std::string& text) override;
@@ -30,6 +32,7 @@ class frmDocument : public QWidget, public DocumentView {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    Common& common_;
     QSplitter* splitter_;
     QTreeWidget* List2_;
     QTreeView* ListView1_;

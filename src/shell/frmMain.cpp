@@ -152,7 +152,7 @@ void frmMain::nosplash() {
 }
 
 DocumentView* frmMain::createView(const std::string& caption) {
-    auto* document = new frmDocument;
+    auto* document = new frmDocument(common_);
     document->setCaption(caption);
     QMdiSubWindow* window = mdi_->addSubWindow(document);
     window->setAttribute(Qt::WA_DeleteOnClose);

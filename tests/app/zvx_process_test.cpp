@@ -1,0 +1,107 @@
+// The window program started as a process, offscreen, the way a desktop starts it:
+// with or without a document, and a second time while it runs.
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "support/catalogue_bytes.h"
+#include "support/temp_folder.h"
+
+namespace zvx {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+class ZvxProcess : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        fs::create_directories(app());
+        // No first-run question: it would wait for an answer.
+        test::WriteAll(app() / "zvx.ini", "FIRSTSTART=no\r\n");
+    }
+    void TearDown() override {
+        for (pid_t pid : running_) {
+            kill(pid, SIGKILL);
+            waitpid(pid, nullptr, 0);
+        }
+    }
+    fs::path app() const { return root_ / "app"; }
+
+    pid_t start(const std::vector<std::string>& args) {
+        pid_t pid = fork();
+        if (pid == 0) {
+            setenv("ZVX_HOME", app().c_str(), 1);
+            setenv("HOME", root_.path().c_str(), 1);
+            setenv("XDG_CONFIG_HOME", (root_ / "config").c_str(), 1);
+            setenv("XDG_DATA_HOME", (root_ / "data").c_str(), 1);
+            setenv("QT_QPA_PLATFORM", "offscreen", 1);
+            std::vector<char*> argv{const_cast<char*>(ZVX_PATH)};
+            for (const std::string& a : args)
+                argv.push_back(const_cast<char*>(a.c_str()));
+            argv.push_back(nullptr);
+            execv(ZVX_PATH, argv.data());
+            _exit(127);
+        }
+        running_.push_back(pid);
+        return pid;
+    }
+
+    // The exit status of a process that must end by itself within the time.
+    int waitForExit(pid_t pid) {
+        for (auto waited = 0ms; waited < 20s; waited += 50ms) {
+            int status = 0;
+            if (waitpid(pid, &status, WNOHANG) == pid) {
+                std::erase(running_, pid);
+                return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+            }
+            std::this_thread::sleep_for(50ms);
+        }
+        return -2;
+    }
+
+    static bool appears(const fs::path& path) {
+        for (auto waited = 0ms; waited < 20s; waited += 50ms) {
+            if (fs::exists(path))
+                return true;
+            std::this_thread::sleep_for(50ms);
+        }
+        return false;
+    }
+
+    fs::path catalogue(const std::string& name) {
+        fs::path file = root_ / name;
+        test::WriteAll(file, test::CatalogueBytes({}, {}));
+        return file;
+    }
+
+    test::TempFolder root_;
+    std::vector<pid_t> running_;
+};
+
+TEST_F(ZvxProcess, ADocumentOnTheCommandLineOpensAndASecondStartHandsItsPathOver) {
+    // Quotes around a path with blanks: the desktop passes it in pieces.
+    const fs::path first = catalogue("my music.zvx");
+    start({"\"" + (root_ / "my").string(), "music.zvx\""});
+    ASSERT_TRUE(appears(app() / "Document 1.tmp"));
+    EXPECT_EQ(test::ReadAll(app() / "Document 1.tmp"), test::ReadAll(first));
+
+    const fs::path second = catalogue("films.zvx");
+    EXPECT_EQ(waitForExit(start({second.string()})), 0);
+    EXPECT_TRUE(appears(app() / "Document 2.tmp"));
+
+    // Without a path, a second start ends at once and leaves no trace.
+    EXPECT_EQ(waitForExit(start({})), 0);
+    EXPECT_FALSE(fs::exists(app() / "zvxopen.tmp"));
+}
+
+}  // namespace
+}  // namespace zvx
