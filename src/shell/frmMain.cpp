@@ -5,6 +5,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
+#include <algorithm>
 
 #include "document/frmDocument.h"
 #include "shell/cleanup_window.h"
@@ -58,6 +59,7 @@ void frmMain::MDIForm_Load() {
     RecentRefresh();
     WindowSettings settings = LoadWindowSettings(common_);
     applyWindowSettings(settings);
+    resizeDocks({news_}, {220}, Qt::Horizontal);
     bars_ = settings.bars;
     barmenustate();
     updateDocumentState();
@@ -154,8 +156,13 @@ void frmMain::nosplash() {
 DocumentView* frmMain::createView(const std::string& caption) {
     auto* document = new frmDocument(common_);
     document->setCaption(caption);
+    QMdiSubWindow* previous = mdi_->currentSubWindow();
     QMdiSubWindow* window = mdi_->addSubWindow(document);
     window->setAttribute(Qt::WA_DeleteOnClose);
+    // New windows open cascaded below the current one, at two thirds of the frame.
+    window->resize(std::max(480, mdi_->width() * 2 / 3), std::max(320, mdi_->height() * 2 / 3));
+    if (previous)
+        window->move(previous->pos() + QPoint(24, 24));
     window->setWindowIcon(ThemeIcon("document-open"));
     document->onClose = [this, document] {
         if (Document* open = lifecycle_->find(document))

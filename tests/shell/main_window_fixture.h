@@ -40,6 +40,7 @@ class MainWindowTest : public ::testing::Test {
     QList<QMdiSubWindow*> documents() const { return main->mdiArea()->subWindowList(); }
     // Saves a picture of the window beside the test programs, for a person to look at.
     void screenshot(QWidget* widget, const char* name) const {
+        widget->resize(960, 640);
         widget->grab().save(QString(ZVX_SCREENSHOT_DIR) + "/" + name + ".png");
     }
 
