@@ -3,7 +3,9 @@
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QLabel>
 
+#include "shell/file_info.h"
 #include "ui/text_codec.h"
 
 namespace zvx {
@@ -18,6 +20,36 @@ QString FilterText(const std::string& label, const std::string& patterns) {
         text = text.left(open).trimmed();
     return text + " (" + qtPatterns + ")";
 }
+
+namespace {
+
+// The information labels below the dialog, kept up to date with its selection.
+void AddFileInfo(QFileDialog& dialog, QGridLayout& grid) {
+    const char* names[] = {"FileInfoFolder", "FileInfoSize", "FileInfoType"};
+    QLabel* labels[3];
+    for (int i = 0; i < 3; ++i) {
+        labels[i] = new QLabel(&dialog);
+        labels[i]->setObjectName(names[i]);
+        grid.addWidget(labels[i], grid.rowCount(), 0, 1, grid.columnCount());
+    }
+    auto update = [&dialog, labels](const QString& current) {
+        // Several selected files are listed; otherwise the one under the cursor counts.
+        QStringList selected = dialog.selectedFiles();
+        if (selected.size() <= 1)
+            selected = current.isEmpty() ? QStringList() : QStringList{current};
+        std::vector<std::string> paths;
+        for (const QString& path : selected)
+            paths.push_back(FromQString(path));
+        const FileInfoTexts texts = FileInfo(paths);
+        labels[0]->setText(ToQString(texts.folder));
+        labels[1]->setText(ToQString(texts.info));
+        labels[2]->setText(ToQString(texts.type));
+    };
+    QObject::connect(&dialog, &QFileDialog::currentChanged, &dialog, update);
+    update(QString());
+}
+
+}  // namespace
 
 FileDialogResult ShowFileDialog(QWidget* parent, const FileDialogRequest& request) {
     QFileDialog dialog(parent, ToQString(request.title), ToQString(request.startFolder));
@@ -39,11 +71,13 @@ FileDialogResult ShowFileDialog(QWidget* parent, const FileDialogRequest& reques
     if (!request.fileName.empty())
         dialog.selectFile(ToQString(request.fileName));
     QCheckBox* readOnly = nullptr;
-    if (request.readOnlyBox && !request.save) {
-        readOnly = new QCheckBox("Open as read-only", &dialog);
-        readOnly->setObjectName("ReadOnlyBox");
-        if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout()))
+    if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
+        if (request.readOnlyBox && !request.save) {
+            readOnly = new QCheckBox("Open as read-only", &dialog);
+            readOnly->setObjectName("ReadOnlyBox");
             grid->addWidget(readOnly, grid->rowCount(), 0, 1, grid->columnCount());
+        }
+        AddFileInfo(dialog, *grid);
     }
     FileDialogResult result;
     if (dialog.exec() != QDialog::Accepted)

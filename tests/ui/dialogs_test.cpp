@@ -1,0 +1,79 @@
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "support/temp_folder.h"
+#include "ui/doubledetect.h"
+#include "ui/file_dialog.h"
+#include "ui/text_codec.h"
+
+namespace zvx {
+namespace {
+
+// Runs `answer` on the modal dialog once it is up.
+void WhenModal(std::function<void(QWidget*)> answer) {
+    QTimer::singleShot(50, [answer] { answer(QApplication::activeModalWidget()); });
+}
+
+TEST(DoubleDetect, ShowsBothEntriesAndAnswersByItsButtons) {
+    DuplicateQuestion q{"a.mp3", "10", "01-01-2000", "a.mp3", "99", "02-02-2002"};
+    WhenModal([](QWidget* dialog) {
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowTitle(), "ZVX - Entry does already exist");
+        EXPECT_EQ(dialog->findChild<QLabel*>("oldsize")->text(), "10");
+        EXPECT_EQ(dialog->findChild<QLabel*>("newdate")->text(), "02-02-2002");
+        dialog->findChild<QPushButton*>("Command3")->click();
+    });
+    EXPECT_EQ(ShowDoubleDetect(nullptr, q), "delold");
+}
+
+TEST(FileDialog, OpenDialogOffersTheReadOnlyBoxAndShowsWhatIsSelected) {
+    test::TempFolder folder;
+    test::WriteAll(folder / "music.zvx", std::string(1234, 'x'));
+    FileDialogRequest request;
+    request.title = "ZVX-Explorer - Load ZVX...";
+    request.actionButton = "Load";
+    request.startFolder = folder.path().string();
+    request.filters = {{"ZVX-Documents (*.zvx)", "*.zvx"}};
+    request.readOnlyBox = true;
+    WhenModal([&](QWidget* widget) {
+        auto* dialog = qobject_cast<QFileDialog*>(widget);
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowTitle(), "ZVX-Explorer - Load ZVX...");
+        EXPECT_EQ(dialog->labelText(QFileDialog::Accept), "Load");
+        dialog->selectFile(ToQString((folder / "music.zvx").string()));
+        emit dialog->currentChanged(ToQString((folder / "music.zvx").string()));
+        EXPECT_EQ(dialog->findChild<QLabel*>("FileInfoSize")->text(), " (1234 bytes)");
+        dialog->findChild<QCheckBox*>("ReadOnlyBox")->setChecked(true);
+        dialog->grab().save(QString(ZVX_SCREENSHOT_DIR) + "/file_dialog_load.png");
+        // The dialog reads its folder in the background: accept once it has.
+        QTimer::singleShot(300, dialog, [dialog] {
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText("music.zvx");
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        QTimer::singleShot(3000, dialog, [dialog] { QMetaObject::invokeMethod(dialog, "reject"); });
+    });
+    FileDialogResult result = ShowFileDialog(nullptr, request);
+    ASSERT_EQ(result.paths.size(), 1u);
+    EXPECT_EQ(result.paths[0], (folder / "music.zvx").string());
+    EXPECT_TRUE(result.readOnly);
+}
+
+TEST(FileDialog, AllFilesTakesNamesWithoutADot) {
+    EXPECT_EQ(FilterText("All Files (*.*)", "*.*"), "All Files (*)");
+    EXPECT_EQ(FilterText("MP3-Audio-Files (*.mp3)", "*.mp3"), "MP3-Audio-Files (*.mp3)");
+    EXPECT_EQ(FilterText("Audio", "*.mp3;*.wav"), "Audio (*.mp3 *.wav)");
+}
+
+TEST(TextCodec, Windows1252FieldsShowTheirLetters) {
+    EXPECT_EQ(ToQString("caf\xE9 \x80"), QString::fromUtf8("café €"));
+    EXPECT_EQ(ToQString("café"), QString::fromUtf8("café"));
+}
+
+}  // namespace
+}  // namespace zvx
