@@ -6,6 +6,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "metadata/content_types.h"
+#include "store/split_path.h"
+
 namespace zvx {
 
 namespace {
@@ -32,6 +35,10 @@ FileInfoTexts OnePath(const std::filesystem::path& path) {
     if (std::filesystem::is_directory(path, error))
         return {{}, "Folder: " + path.string(), "Type: Folder"};
     FileInfoTexts texts{{}, "Folder: " + path.parent_path().string(), {}};
+    const std::string_view contentType =
+        ContentTypeFromExtension(SplitPath(path.filename().string()).extension).contentType;
+    texts.type = "ZVX-Content-Type: " + std::string(contentType);
+    texts.icon = IconOfContentType(contentType);
     if (const auto length = LengthOf(path))
         texts.info = " (" + std::to_string(*length) + " bytes)";
     return texts;

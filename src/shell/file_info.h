@@ -14,9 +14,11 @@ struct FileInfoTexts {
     // "<no file(s) selected!>", "Folder: " with a folder or a file's folder, or
     // "Path: " with the folder of several files.
     std::string folder;
-    // "Type: Folder" or "<multiple files selected>". For one file this is where its
-    // content type goes, which the content-type rules supply; empty until then.
+    // "Type: Folder", "<multiple files selected>", or for one file "ZVX-Content-Type: "
+    // with the content type of its extension.
     std::string type;
+    // For one file the list icon of its content type; 0 (no icon) otherwise.
+    int icon = 0;
 };
 
 // The texts for the paths the dialog shows: none, one, or several files. Each path

@@ -32,6 +32,19 @@ TEST(FileInfo, FolderAndSingleFile) {
     const FileInfoTexts forFile = FileInfo({(folder / "a.mp3").string() + std::string("\0b", 2)});
     EXPECT_EQ(forFile.folder, "Folder: " + folder.path().string());
     EXPECT_EQ(forFile.info, " (5 bytes)");
+    EXPECT_EQ(forFile.type, "ZVX-Content-Type: Audio: unknown");
+    EXPECT_EQ(forFile.icon, 1);
+    EXPECT_EQ(forFolder.icon, 0);
+
+    // The extension compares without regard to case; an unknown one has the icon 18.
+    WriteAll(folder / "Notes.TXT", "x");
+    const FileInfoTexts text = FileInfo({(folder / "Notes.TXT").string()});
+    EXPECT_EQ(text.type, "ZVX-Content-Type: Document: Text");
+    EXPECT_EQ(text.icon, 4);
+    WriteAll(folder / "data.bin", "x");
+    const FileInfoTexts unknown = FileInfo({(folder / "data.bin").string()});
+    EXPECT_EQ(unknown.type, "ZVX-Content-Type: <Unknown Content Type>");
+    EXPECT_EQ(unknown.icon, 18);
 }
 
 TEST(FileInfo, SeveralFiles) {
@@ -42,6 +55,7 @@ TEST(FileInfo, SeveralFiles) {
         {(folder / "a.mp3").string(), (folder / "b.mp3").string(), (folder / "gone.mp3").string()});
     EXPECT_EQ(texts.info, "3 files selected. (10 bytes)");
     EXPECT_EQ(texts.type, "<multiple files selected>");
+    EXPECT_EQ(texts.icon, 0);
     EXPECT_EQ(texts.folder, "Path: " + folder.path().string());
 }
 

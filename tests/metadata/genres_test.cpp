@@ -1,0 +1,63 @@
+#include "metadata/genres.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace zvx {
+namespace {
+
+TEST(Genres, TableKeepsItsSpellingsAndGaps) {
+    EXPECT_EQ(GenreNameFromTag("0"), "Blues");
+    EXPECT_EQ(GenreNameFromTag("17"), "Rock");
+    EXPECT_EQ(GenreNameFromTag("40"), "Alt. Rock");
+    EXPECT_EQ(GenreNameFromTag("59"), "Gangsta Rap");
+    EXPECT_EQ(GenreNameFromTag("67"), "Psychedelic");
+    EXPECT_EQ(GenreNameFromTag("79"), "Hard Rock");
+    EXPECT_EQ(GenreNameFromTag("80"), "Folk");
+    EXPECT_EQ(GenreNameFromTag("81"), "Folk/Rock");
+    EXPECT_EQ(GenreNameFromTag("84"), "Fast-Fusion");
+    EXPECT_EQ(GenreNameFromTag("118"), "Rhythmic Soul");
+    EXPECT_EQ(GenreNameFromTag("120"), "Duet");
+    EXPECT_EQ(GenreNameFromTag("123"), "A Capella");
+    EXPECT_EQ(GenreNameFromTag("136"), "Christian Gansta");
+    EXPECT_EQ(GenreNameFromTag("139"), "Crossover");
+    EXPECT_EQ(GenreNameFromTag("141"), "Christian Rock");
+    EXPECT_EQ(GenreNameFromTag("144"), "Trash Metal");
+
+    const auto choices = GenreChoices();
+    ASSERT_EQ(choices.size(), 143u);
+    EXPECT_EQ(choices.front(), "Blues");
+    EXPECT_EQ(choices[119], "Duet");
+    EXPECT_EQ(choices[139], "Christian Rock");
+    EXPECT_EQ(choices.back(), "Trash Metal");
+}
+
+TEST(GenreNameFromTag, UnknownNonNumericAndOutOfRange) {
+    EXPECT_EQ(GenreNameFromTag(""), "<unknown>");
+    EXPECT_EQ(GenreNameFromTag("<unknown>"), "<unknown>");
+    // A text without a leading number counts as 0.
+    EXPECT_EQ(GenreNameFromTag("abc"), "Blues");
+    EXPECT_EQ(GenreNameFromTag(" 13 (Pop)"), "Pop");
+    // Numbers without a genre give an empty text, not "<unknown>".
+    EXPECT_EQ(GenreNameFromTag("119"), "");
+    EXPECT_EQ(GenreNameFromTag("140"), "");
+    EXPECT_EQ(GenreNameFromTag("145"), "");
+    EXPECT_EQ(GenreNameFromTag("255"), "");
+    EXPECT_EQ(GenreNameFromTag("-1"), "");
+    EXPECT_EQ(GenreNameFromTag("1.5"), "");
+    EXPECT_EQ(GenreNameFromTag("1e9"), "");
+}
+
+TEST(GenreDisplayName, ZeroAndGapsReadUnknown) {
+    EXPECT_EQ(GenreDisplayName(0), "<unknown>");
+    EXPECT_EQ(GenreDisplayName(119), "<unknown>");
+    EXPECT_EQ(GenreDisplayName(140), "<unknown>");
+    EXPECT_EQ(GenreDisplayName(145), "<unknown>");
+    EXPECT_EQ(GenreDisplayName(-3), "<unknown>");
+    EXPECT_EQ(GenreDisplayName(1), "Classic Rock");
+    EXPECT_EQ(GenreDisplayName(144), "Trash Metal");
+}
+
+}  // namespace
+}  // namespace zvx
