@@ -1,6 +1,7 @@
 // Any bytes, taken as a catalogue file, go through every reader of the catalogue store.
 // The readers may fail only with FileError, they must agree on where the TOC ends, and
 // a copy through the rewrite pattern keeps the TOC groups and the lines behind them.
+// The folder tree builds from any TOC.
 
 #include <cstddef>
 #include <cstdint>
@@ -9,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "document/folder_caption.h"
+#include "document/folder_tree.h"
 #include "fuzz_check.h"
 #include "fuzz_folder.h"
 #include "platform/file_error.h"
@@ -118,8 +121,20 @@ void CheckDuplicates(zvx::Common& common, const Path& catalogue, std::string_vie
     Require(zvx::CheckDuplicate(common, decheck, line), "decheck.tmp takes every line");
 }
 
+// The tree builder takes any records: a node for each record at most, each parent
+// standing before its children, and the folder caption for every node.
+void CheckTree(const std::vector<zvx::TocGroup>& groups) {
+    const zvx::FolderTree tree = zvx::BuildFolderTree(groups);
+    Require(tree.nodes.size() <= groups.size(), "one node a record at most");
+    for (int i = 0; i < tree.size(); ++i) {
+        Require(tree.nodes[i].parent < i, "a parent stands before its children");
+        Require(zvx::folderstats(tree, i).tag == tree.nodes[i].fullPath, "a caption per node");
+    }
+}
+
 void Exercise(zvx::Common& common, const Path& catalogue, std::string_view bytes) {
     const std::vector<zvx::TocGroup> groups = ReadToc(catalogue);
+    CheckTree(groups);
     std::optional<std::string> firstEntry = ListFolder(catalogue, "00000000");
     if (!groups.empty()) {
         std::optional<std::string> listed = ListFolder(catalogue, groups.front().id);

@@ -52,6 +52,9 @@ class Common {
     bool AbortAdding = false;
     // The counter of NextFolderID, set by ScanHighestFolderID.
     long long folderIdCounter = 0;
+    // Set by a new sub-folder: the next rebuild of a tree with nodes expands the node it
+    // selects, then clears this.
+    bool ExpandAfterRefresh = false;
     // A path LoadDoc takes instead of showing its dialog.
     std::string pendingDocument;
     // Start folders of the file dialogs (lastsavepath, lastloadpath, lastaddpath).

@@ -6,17 +6,28 @@ namespace zvx::cat {
 
 Arguments ParseArguments(const std::vector<std::string>& args,
                          const std::vector<std::string_view>& knownFlags) {
+    auto known = [&](std::string_view flag) {
+        return std::find(knownFlags.begin(), knownFlags.end(), flag) != knownFlags.end();
+    };
     Arguments parsed;
     bool optionsEnded = false;
-    for (const std::string& arg : args) {
+    for (size_t i = 0; i < args.size(); ++i) {
+        const std::string& arg = args[i];
+        size_t equals = arg.find('=');
         if (optionsEnded || arg.size() < 2 || arg.compare(0, 2, "--") != 0) {
             parsed.positional.push_back(arg);
         } else if (arg == "--") {
             optionsEnded = true;
         } else if (arg == "--help") {
             parsed.help = true;
-        } else if (std::find(knownFlags.begin(), knownFlags.end(), arg) != knownFlags.end()) {
+        } else if (known(arg) && !arg.ends_with('=')) {
             parsed.flags.insert(arg);
+        } else if (known(arg + "=")) {
+            if (i + 1 == args.size())
+                throw UsageError("option '" + arg + "' needs a value");
+            parsed.values[arg] = args[++i];
+        } else if (equals != std::string::npos && known(arg.substr(0, equals + 1))) {
+            parsed.values[arg.substr(0, equals)] = arg.substr(equals + 1);
         } else {
             throw UsageError("unknown option '" + arg + "'");
         }

@@ -2,6 +2,7 @@
 // The arguments of one command: its positional texts and the "--" flags it knows.
 
 #include <filesystem>
+#include <map>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -19,14 +20,22 @@ class UsageError : public std::runtime_error {
 struct Arguments {
     std::vector<std::string> positional;
     std::set<std::string> flags;
+    std::map<std::string, std::string> values;  // options with a value, by their name
     bool help = false;
 
     bool has(std::string_view flag) const { return flags.count(std::string(flag)) > 0; }
+    // The value of an option such as "--icon", or null when it was not given.
+    const std::string* value(std::string_view option) const {
+        auto found = values.find(std::string(option));
+        return found == values.end() ? nullptr : &found->second;
+    }
 };
 
 // Splits `args` into positional texts and flags. "--help" is always known; after "--"
 // every argument is positional, so that a file may be called "--force". Only texts that
-// start with "--" are flags, so "-5" is a value. Throws UsageError on an unknown flag.
+// start with "--" are flags, so "-5" is a value. A known flag listed with a trailing "="
+// ("--icon=") takes a value, given as "--icon 5" or "--icon=5"; the next argument is its
+// value whatever it looks like. Throws UsageError on an unknown flag or a missing value.
 Arguments ParseArguments(const std::vector<std::string>& args,
                          const std::vector<std::string_view>& knownFlags);
 

@@ -7,8 +7,9 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 3> AllCommands() {
-    return {&NewCommand(), &InfoCommand(), &SettingsCommand()};
+std::array<const Command*, 8> AllCommands() {
+    return {&NewCommand(),   &InfoCommand(),  &SettingsCommand(), &FoldersCommand(),
+            &MkdirCommand(), &RmdirCommand(), &MvdirCommand(),    &RenameCommand()};
 }
 
 }  // namespace

@@ -11,6 +11,11 @@ namespace zvx::cat {
 const Command& NewCommand();
 const Command& InfoCommand();
 const Command& SettingsCommand();
+const Command& FoldersCommand();
+const Command& MkdirCommand();
+const Command& RmdirCommand();
+const Command& MvdirCommand();
+const Command& RenameCommand();
 
 // The command of that name, or nullptr.
 const Command* FindCommand(std::string_view name);

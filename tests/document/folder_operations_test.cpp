@@ -1,0 +1,200 @@
+#include <gtest/gtest.h>
+
+#include "document/folder_operations.h"
+#include "document/folder_refresh.h"
+#include "support/catalogue_bytes.h"
+#include "support/temp_folder.h"
+
+namespace zvx {
+namespace {
+
+using test::CatalogueBytes;
+using test::EntryLineOf;
+using test::FolderSpec;
+
+// A working copy in a test environment, with the plug-in events it fired.
+struct Document {
+    explicit Document(const std::vector<FolderSpec>& folders,
+                      const std::vector<std::string>& entries = {}) {
+        test::WriteAll(cfn, CatalogueBytes(folders, entries));
+        env.common.onPlugStart = [this](const std::string& name) { events.push_back(name); };
+    }
+    FolderTree tree() { return BuildFolderTree(ReadTocGroups(cfn)); }
+    // The position of the folder with this FullPath.
+    int at(const std::string& path) {
+        FolderTree current = tree();
+        for (int i = 0; i < current.size(); ++i) {
+            if (current.nodes[i].fullPath == path)
+                return i;
+        }
+        return -1;
+    }
+    std::string bytes() const { return test::ReadAll(cfn); }
+
+    test::TestEnvironment env;
+    std::filesystem::path cfn = env.folder / "Document 1.tmp";
+    std::vector<std::string> events;
+};
+
+const std::vector<FolderSpec> kMusic = {{"Music\\", "", 10, "00000000"},
+                                        {"Music\\Rock\\", "Loud", 4, "00000001"},
+                                        {"Music2\\", "", 10, "00000002"},
+                                        {"Art\\", "", 10, "00000003"}};
+
+FolderDialogResult Dialog(const std::string& name, bool asSubFolder = false,
+                          const std::string& description = "", int icon = 10) {
+    return {name, description, icon, asSubFolder};
+}
+
+TEST(CreateFolder, TheFirstFolderGetsIdZeroAndStandsBehindTheToc) {
+    Document doc({}, {EntryLineOf("00000009", {"x"})});
+    FolderChange change = CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1, Dialog("a"));
+    EXPECT_TRUE(change.changed);
+    EXPECT_EQ(change.id, "00000000");
+    EXPECT_EQ(doc.bytes(),
+              CatalogueBytes({{"a\\", "", 10, "00000000"}}, {EntryLineOf("00000009", {"x"})}));
+    EXPECT_EQ(doc.events, std::vector<std::string>{"FOLDERCREATE"});
+    EXPECT_GT(doc.env.changedCalls, 0);
+    EXPECT_FALSE(doc.env.common.ExpandAfterRefresh);
+}
+
+TEST(CreateFolder, ASubFolderGoesUnderTheSelectionAndIsExpandedAfterwards) {
+    Document doc(kMusic);
+    FolderChange change = CreateFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music\\Rock"),
+                                       Dialog("Hard", true, "very", 12));
+    EXPECT_EQ(change.id, "00000004");
+    std::vector<FolderSpec> expected = kMusic;
+    expected.push_back({"Music\\Rock\\Hard\\", "very", 12, "00000004"});
+    EXPECT_EQ(doc.bytes(), CatalogueBytes(expected, {}));
+    EXPECT_TRUE(doc.env.common.ExpandAfterRefresh);
+}
+
+TEST(CreateFolder, AnExistingPathIsRefusedWithoutRegardToCase) {
+    Document doc(kMusic);
+    std::string before = doc.bytes();
+    FolderChange change =
+        CreateFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music"), Dialog("ROCK", true));
+    EXPECT_FALSE(change.changed);
+    EXPECT_EQ(doc.bytes(), before);
+    ASSERT_EQ(doc.env.screen.shown.size(), 1u);
+    EXPECT_EQ(doc.env.screen.shown[0].caption, "Error");
+    EXPECT_EQ(doc.env.screen.shown[0].text, "The Folder \"Music\\ROCK\" does already exist!");
+    EXPECT_EQ(doc.env.screen.shown[0].icon, MsgIcon::Critical);
+    EXPECT_TRUE(doc.events.empty());
+}
+
+TEST(DeleteFolder, RemovesSubFoldersAndTheirEntriesAndKeepsEmptyLines) {
+    Document doc(kMusic, {EntryLineOf("00000000", {"a"}), EntryLineOf("00000002", {"b"}), "",
+                          EntryLineOf("00000001", {"c"}), EntryLineOf("00000003", {"d"})});
+    doc.env.screen.answerMessage(MsgAnswer::Yes);
+    ASSERT_TRUE(ConfirmFolderDelete(doc.env.common));
+    EXPECT_EQ(doc.env.screen.shown[0].text,
+              "Are you sure that you want delete the selected Folder,\rall its Sub-Folders and "
+              "ALL contained entries?");
+    EXPECT_EQ(doc.env.screen.shown[0].buttons, MsgButtons::YesNo);
+    FolderChange change = DeleteFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music"));
+    EXPECT_TRUE(change.changed);
+    // Music2 only begins with the same letters: it stays.
+    EXPECT_EQ(doc.bytes(),
+              CatalogueBytes({kMusic[2], kMusic[3]},
+                             {EntryLineOf("00000002", {"b"}), "", EntryLineOf("00000003", {"d"})}));
+    EXPECT_EQ(doc.events, std::vector<std::string>{"ZVXFOLDERDEL"});
+    EXPECT_EQ(doc.env.screen.statuses,
+              (std::vector<std::string>{"Deleting selected folder(s)...",
+                                        "Searching and deleting contained files..."}));
+}
+
+TEST(DeleteFolder, TheDeletedIdGoesToTheNextNewFolder) {
+    Document doc(kMusic);
+    doc.env.screen.answerMessage(MsgAnswer::No);
+    EXPECT_FALSE(ConfirmFolderDelete(doc.env.common));
+    DeleteFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music2"));
+    FolderChange change = CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1, Dialog("New"));
+    EXPECT_EQ(change.id, "00000002");
+    EXPECT_FALSE(DeleteFolder(doc.env.common, doc.cfn, FolderTree{}, -1).changed);
+}
+
+TEST(DeleteFolder, MoreFoldersThanTheIdListHoldsFailBeforeAnythingIsWritten) {
+    std::vector<FolderSpec> folders = {{"A\\", "", 10, "00000000"}};
+    for (int i = 1; i <= 64001; ++i)
+        folders.push_back({"A\\" + std::to_string(i) + "\\", "", 10, std::to_string(i)});
+    Document doc(folders);
+    std::string before = doc.bytes();
+    FolderTree tree = BuildFolderTree({MakeTocGroup("A\\", "", 10, "00000000")});
+    EXPECT_THROW(DeleteFolder(doc.env.common, doc.cfn, tree, 0), FolderListFull);
+    EXPECT_EQ(doc.bytes(), before);
+}
+
+TEST(FolderProperties, RenamingMusicMakesItsSiblingMusic2AChild) {
+    Document doc(kMusic, {EntryLineOf("00000000", {"a"})});
+    FolderChange change = ChangeFolderProperties(doc.env.common, doc.cfn, doc.tree(),
+                                                 doc.at("Music"), Dialog("Sound", false, "new", 5));
+    EXPECT_TRUE(change.changed);
+    EXPECT_EQ(doc.bytes(), CatalogueBytes({{"Sound\\", "new", 5, "00000000"},
+                                           {"Sound\\Rock\\", "Loud", 4, "00000001"},
+                                           {"Sound\\2\\", "", 10, "00000002"},
+                                           {"Art\\", "", 10, "00000003"}},
+                                          {EntryLineOf("00000000", {"a"})}));
+    EXPECT_TRUE(doc.events.empty());
+    EXPECT_GT(doc.env.changedCalls, 0);
+}
+
+TEST(FolderProperties, ACaseChangePassesAndAnotherExistingNameIsRefused) {
+    Document doc(kMusic);
+    std::string before = doc.bytes();
+    EXPECT_FALSE(
+        ChangeFolderProperties(doc.env.common, doc.cfn, doc.tree(), doc.at("Music2"), Dialog("art"))
+            .changed);
+    EXPECT_EQ(doc.env.screen.shown.at(0).text, "The Folder \"art\" does already exist!");
+    EXPECT_EQ(doc.bytes(), before);
+    EXPECT_TRUE(ChangeFolderProperties(doc.env.common, doc.cfn, doc.tree(), doc.at("Music\\Rock"),
+                                       Dialog("ROCK", false, "Loud", 4))
+                    .changed);
+    EXPECT_NE(doc.at("Music\\ROCK"), -1);
+    EXPECT_EQ(doc.env.screen.shown.size(), 1u);
+}
+
+TEST(MoveFolder, MovesTheFolderWithItsSubFoldersAndLeavesEntriesAlone) {
+    std::vector<FolderSpec> folders = kMusic;
+    folders.push_back({"Music\\Rock\\Hard\\", "", 10, "00000004"});
+    Document doc(folders, {EntryLineOf("00000004", {"h"})});
+    FolderChange change =
+        extrememoving(doc.env.common, doc.cfn, doc.tree(), "Music\\Rock", "Rock", "Art\\");
+    EXPECT_TRUE(change.changed);
+    EXPECT_EQ(change.reselect, "Art\\");
+    EXPECT_EQ(doc.bytes(), CatalogueBytes({kMusic[0],
+                                           {"Art\\Rock\\", "Loud", 4, "00000001"},
+                                           kMusic[2],
+                                           kMusic[3],
+                                           {"Art\\Rock\\Hard\\", "", 10, "00000004"}},
+                                          {EntryLineOf("00000004", {"h"})}));
+    EXPECT_EQ(doc.events, std::vector<std::string>{"ZVXFOLDERMOVE"});
+
+    change = extrememoving(doc.env.common, doc.cfn, doc.tree(), "Art\\Rock", "Rock", "\\");
+    EXPECT_EQ(change.reselect, "");
+    EXPECT_NE(doc.at("Rock\\Hard"), -1);
+}
+
+TEST(MoveFolder, RefusalsComeInTheirOrder) {
+    Document doc(kMusic);
+    std::string before = doc.bytes();
+    FolderTree tree = doc.tree();
+    auto move = [&](const std::string& source, const std::string& leaf, const std::string& target) {
+        doc.env.screen.shown.clear();
+        EXPECT_FALSE(extrememoving(doc.env.common, doc.cfn, tree, source, leaf, target).changed);
+        return doc.env.screen.shown.empty() ? std::string() : doc.env.screen.shown[0].text;
+    };
+    // A cancelled dialog with a root folder selected meets the same-name test.
+    EXPECT_EQ(move("Art", "Art", ""),
+              "A Folder with the same name does already exist in the specified target-folder.");
+    EXPECT_EQ(move("Music\\Rock", "Rock", ""), "");
+    EXPECT_EQ(move("Art", "Art", "\\"),
+              "Yo cannot copy / move an object if target and source are the same objects!");
+    EXPECT_EQ(move("Music", "Music", "music\\Rock\\"),
+              "A Folder cannot be a Sub-Folder of itself!");
+    EXPECT_EQ(doc.bytes(), before);
+    EXPECT_TRUE(doc.events.empty());
+}
+
+}  // namespace
+}  // namespace zvx
