@@ -1,5 +1,6 @@
 // Listing one folder of a 1,000,000-entry catalogue over 2,000 folders: one scan of the
-// whole entry section. The catalogue is generated once into the build folder.
+// whole entry section, by the store and by the document window's listing (ShowEntries),
+// plainly and as a sub-view. The catalogue is generated once into the build folder.
 
 #include <benchmark/benchmark.h>
 
@@ -7,7 +8,10 @@
 #include <string_view>
 
 #include "catalogue_generator.h"
+#include "document/show_entries.h"
 #include "platform/file_io.h"
+#include "quiet_screen.h"
+#include "shell/common.h"
 #include "store/entry_line.h"
 #include "store/folder_listing.h"
 
@@ -49,6 +53,25 @@ void SplitFolderEntries(benchmark::State& state) {
     state.SetBytesProcessed(state.iterations() * zvx::FileLength(catalogue));
 }
 BENCHMARK(SplitFolderEntries)->Unit(benchmark::kMillisecond);
+
+// The rows of the window's listing: of folder 00001000, or the sub-view of the root
+// "Music" (about 60% of all entries).
+void ShowFolderEntries(benchmark::State& state, zvx::ListingSelection selection) {
+    const auto& catalogue = ListingCatalogue();
+    zvx::bench::QuietScreen screen;
+    const std::filesystem::path here = std::filesystem::temp_directory_path();
+    zvx::Common common(here, here, screen);
+    for (auto _ : state) {
+        zvx::ViewBuffer buffer;
+        zvx::EntryRows rows = zvx::ShowEntries(common, catalogue, selection, buffer);
+        benchmark::DoNotOptimize(rows.size());
+    }
+    state.SetBytesProcessed(state.iterations() * zvx::FileLength(catalogue));
+}
+BENCHMARK_CAPTURE(ShowFolderEntries, Plain, {true, kFolderId, "", false})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ShowFolderEntries, SubView, {true, "00000000", "Music", true})
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -11,6 +11,7 @@ namespace zvx::cat {
 const Command& NewCommand();
 const Command& InfoCommand();
 const Command& SettingsCommand();
+const Command& LsCommand();
 const Command& FoldersCommand();
 const Command& MkdirCommand();
 const Command& RmdirCommand();

@@ -1,0 +1,93 @@
+#include "document/list_sorting.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "document/entry_rows.h"
+#include "shell/text_case.h"
+
+namespace zvx {
+
+namespace {
+
+// The sort texts of all rows, upper-cased, back to back in one buffer.
+class SortTexts {
+  public:
+    SortTexts(const EntryRows& rows, int column, const LoadedSettings& settings) {
+        ends_.reserve(rows.size());
+        for (size_t row = 0; row < rows.size(); ++row) {
+            appendUpper(DisplayText(rows.line(row), column, settings));
+            ends_.push_back(bytes_.size());
+        }
+    }
+    std::string_view text(uint32_t row) const {
+        const size_t begin = row == 0 ? 0 : ends_[row - 1];
+        return std::string_view(bytes_).substr(begin, ends_[row] - begin);
+    }
+
+  private:
+    // Most texts are plain ASCII, which is cased here without the general rule's cost.
+    void appendUpper(const std::string& text) {
+        if (std::any_of(text.begin(), text.end(), [](char c) { return c & 0x80; })) {
+            bytes_ += UpperCase(text);
+            return;
+        }
+        for (char c : text)
+            bytes_ += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    }
+
+    std::string bytes_;
+    std::vector<size_t> ends_;
+};
+
+// A row to sort, with the first sixteen bytes of its text as two numbers, so that most
+// comparisons never reach the texts themselves (sizes share their first eight).
+struct SortItem {
+    uint64_t high;
+    uint64_t low;
+    uint32_t row;
+};
+
+// Eight bytes of the text from `at` as a number that orders as the bytes do.
+uint64_t Prefix(std::string_view text, size_t at) {
+    uint64_t prefix = 0;
+    for (size_t i = at; i < at + 8; ++i)
+        prefix = prefix << 8 | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0);
+    return prefix;
+}
+
+}  // namespace
+
+void ColumnClick(ListSort& sort, int columnIndex) {
+    if (columnIndex - 1 != sort.SortKey)
+        sort.SortKey = columnIndex - 1;
+    else
+        sort.SortOrder = sort.SortOrder == kSortAscending ? kSortDescending : kSortAscending;
+}
+
+std::vector<uint32_t> SortedRowOrder(const EntryRows& rows, const ListSort& sort,
+                                     const LoadedSettings& settings) {
+    const SortTexts texts(rows, sort.SortKey + 1, settings);
+    std::vector<SortItem> items(rows.size());
+    for (uint32_t row = 0; row < items.size(); ++row)
+        items[row] = {Prefix(texts.text(row), 0), Prefix(texts.text(row), 8), row};
+    const bool descending = sort.SortOrder == kSortDescending;
+    // Rows of equal texts keep their file order in both directions.
+    std::sort(items.begin(), items.end(), [&](const SortItem& a, const SortItem& b) {
+        if (a.high != b.high)
+            return descending ? b.high < a.high : a.high < b.high;
+        if (a.low != b.low)
+            return descending ? b.low < a.low : a.low < b.low;
+        const int order = texts.text(a.row).compare(texts.text(b.row));
+        if (order != 0)
+            return descending ? order > 0 : order < 0;
+        return a.row < b.row;
+    });
+    std::vector<uint32_t> order(items.size());
+    for (size_t i = 0; i < items.size(); ++i)
+        order[i] = items[i].row;
+    return order;
+}
+
+}  // namespace zvx
