@@ -3,11 +3,25 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListView>
 #include <QSplitter>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTimer>
 #include <QTreeView>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 
+#include "document/column_layout.h"
+#include "document/entry_list_model.h"
+#include "document/folder_caption.h"
+#include "document/folder_refresh.h"
+#include "document/folder_tree_widget.h"
+#include "document/list_appearance.h"
 #include "shell/common.h"
+#include "shell/summary_text.h"
 #include "ui/text_codec.h"
 
 namespace zvx {
@@ -17,20 +31,37 @@ frmDocument::frmDocument(Common& common, QWidget* parent) : QWidget(parent), com
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     splitter_ = new QSplitter(Qt::Horizontal);
-    splitter_->setObjectName("Splitter");
+    splitter_->setObjectName("picsplitter");
     List2_ = new QTreeWidget;
     List2_->setObjectName("List2");
     List2_->setHeaderHidden(true);
-    ListView1_ = new QTreeView;
-    ListView1_->setObjectName("ListView1");
-    ListView1_->setRootIsDecorated(false);
-    ListView1_->setUniformRowHeights(true);
     splitter_->addWidget(List2_);
-    splitter_->addWidget(ListView1_);
+
+    auto* right = new QWidget;
+    auto* rightLayout = new QVBoxLayout(right);
+    rightLayout->setContentsMargins(0, 0, 0, 0);
+    Label1_ = new QLabel;
+    Label1_->setObjectName("Label1");
+    rightLayout->addWidget(Label1_);
+    Tabthing_ = new QTabWidget;
+    Tabthing_->setObjectName("Tabthing");
+    rightLayout->addWidget(Tabthing_);
+    buildList();
+    splitter_->addWidget(right);
     splitter_->setStretchFactor(1, 3);
     layout->addWidget(splitter_);
+
+    connect(List2_, &QTreeWidget::currentItemChanged, this, [this] {
+        if (!filling_)
+            folderSelected();
+    });
+    subViewing_ = common_.settings.defaultSubViewing;
+    setListStyle(ListStyleFromSetting(common_.settings.defaultListStyle));
+    loadColumnSetting(StartColumnSettingName(common_));
     resize(640, 400);
 }
+
+frmDocument::~frmDocument() = default;
 
 std::string frmDocument::caption() const {
     return FromQString(windowTitle());
@@ -40,10 +71,64 @@ void frmDocument::setCaption(const std::string& text) {
     setWindowTitle(ToQString(text));
 }
 
-// The tree and the list are filled from the working copy by the folder and listing
-// code; until a document has them, a refresh only ends the operation it closes.
+std::filesystem::path frmDocument::cfn() const {
+    return workingCopy ? workingCopy() : std::filesystem::path();
+}
+
 void frmDocument::refresh_Click() {
+    listak();
+    ShowEntries();
+}
+
+void frmDocument::listak() {
+    const int remembered = List2_->topLevelItemCount() > 0 ? selectedFolder() : -1;
+    List2_->hide();
+    tree_ = zvx::listak(common_, cfn());
+    const RefreshSelection selection = SelectAfterRefresh(common_, remembered, tree_);
+    showTree(selection.node, selection.expand);
+    List2_->show();
+    common_.setProgress(0);
     common_.screen().status("");
+    if (onSelectionChanged)
+        onSelectionChanged();
+}
+
+// Fills List2 from the tree and selects a node, without listing.
+void frmDocument::showTree(int select, bool expand) {
+    filling_ = true;
+    items_ = FillTreeWidget(List2_, tree_);
+    if (select >= 0 && static_cast<size_t>(select) < items_.size()) {
+        QTreeWidgetItem* item = items_[static_cast<size_t>(select)];
+        List2_->setCurrentItem(item);
+        List2_->scrollToItem(item);
+        if (expand)
+            item->setExpanded(true);
+    }
+    filling_ = false;
+    const FolderCaption caption = folderstats(tree_, selectedFolder());
+    Label1_->setText(ToQString(caption.caption));
+    Label1_->setToolTip(ToQString(caption.caption));
+}
+
+int frmDocument::selectedFolder() const {
+    return NodeOfItem(List2_->currentItem());
+}
+
+// A node click: the folder line and the listing.
+void frmDocument::folderSelected() {
+    const FolderCaption caption = folderstats(tree_, selectedFolder());
+    Label1_->setText(ToQString(caption.caption));
+    Label1_->setToolTip(ToQString(caption.caption));
+    ShowEntries();
+}
+
+SelectionFacts frmDocument::selectionFacts() const {
+    SelectionFacts facts;
+    facts.hasRows = model_->rowCount() > 0;
+    facts.rowSelected = ListView1_->selectionModel()->hasSelection();
+    facts.hasFolders = !tree_.empty();
+    facts.folderSelected = selectedFolder() >= 0;
+    return facts;
 }
 
 void frmDocument::closeEvent(QCloseEvent* event) {

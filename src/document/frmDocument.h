@@ -1,41 +1,114 @@
 #pragma once
-// A document window: the folder tree on the left, the entry list on the right. Its life
-// (working copy, change flag, saving) is the document lifecycle's; the window shows it.
+// A document window: the folder tree List2 on the left, the folder line and the entry
+// list ListView1 on the right. Its life (working copy, change flag, saving) is the
+// document lifecycle's; the window shows the working copy and runs the commands on it.
 
 #include <QWidget>
+#include <filesystem>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "document/document_view.h"
+#include "document/folder_tree.h"
+#include "document/list_sorting.h"
+#include "document/show_entries.h"
+#include "shell/selection_update.h"
 
+class QLabel;
+class QListView;
 class QSplitter;
+class QStackedWidget;
+class QTabWidget;
+class QTimer;
 class QTreeView;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace zvx {
 
 class Common;
+class EntryListModel;
 
 class frmDocument : public QWidget, public DocumentView {
     Q_OBJECT
   public:
     explicit frmDocument(Common& common, QWidget* parent = nullptr);
+    ~frmDocument() override;
 
     std::string caption() const override;
     void setCaption(const std::string& text) override;
+    // Rebuilds the tree from the working copy and lists the selected folder.
     void refresh_Click() override;
     void Editor_Final_Apply_Changes() override {}
 
+    // The working copy, from the lifecycle; installed by the main window.
+    std::function<std::filesystem::path()> workingCopy;
     // Runs the close sequence; installed by the main window. Closing always goes on.
     std::function<void()> onClose;
+    // The main window's menu-state update, summary panel and command dispatch.
+    std::function<void()> onSelectionChanged;
+    std::function<void(const std::string&)> onSummary;
+    std::function<void(const std::string&)> coreCalls;
+
+    // The tree (listak) and the list (ShowEntries).
+    void listak();
+    void ShowEntries();
+    SelectionFacts selectionFacts() const;
+
+    // Folder commands.
+    void crefolder_Click();
+    void Folderprefs_Click();
+    void delFolder_Click();
+    void movfolder_Click();
+    void expandmnu_Click();
+    void increasemnu_Click();
+    void expselmnu_Click();
+    void incselmnu_Click();
+
+    // View: sub-view, list style (0 large icons, 1 small icons, 2 list, 3 report) and
+    // column settings.
+    bool SubViewIng() const { return subViewing_; }
+    void setSubViewing(bool on);
+    int listStyle() const { return listStyle_; }
+    void setListStyle(int style);
+    void loadColumnSetting(const std::string& name);
+    void saveColumnSetting(const std::string& name);
+
+    int selectedFolder() const;
+    EntryListModel* entries() const { return model_; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void buildList();
+    void showTree(int select, bool expand);
+    void folderSelected();
+    void applyFolderChange(bool changed, const std::string& reselect);
+    void sortBy(int column);
+    void applySort();
+    void summarize();
+    std::filesystem::path cfn() const;
+
     Common& common_;
     QSplitter* splitter_;
     QTreeWidget* List2_;
+    QLabel* Label1_;
+    QTabWidget* Tabthing_;
+    QStackedWidget* views_;
     QTreeView* ListView1_;
+    QListView* iconView_;
+    EntryListModel* model_;
+    QTimer* Timer1_;
+    FolderTree tree_;
+    std::vector<QTreeWidgetItem*> items_;
+    ViewBuffer buffer_;
+    ListSort sort_;
+    bool sorted_ = false;
+    bool subViewing_ = false;
+    int listStyle_ = 3;
+    bool filling_ = false;
 };
 
 }  // namespace zvx

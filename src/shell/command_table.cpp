@@ -22,6 +22,21 @@ constexpr std::array kCommandNames{
     CommandName{"mnufile3", "document_saveas", Command::DocumentSaveAs},
     CommandName{"mnufile4", "document_close", Command::DocumentClose},
     CommandName{"mnufile6", "zvx_quit", Command::Quit},
+    CommandName{"pathmnu0", "folder_create", Command::FolderCreate},
+    CommandName{"pathmnu1", "folder_properties", Command::FolderProperties},
+    CommandName{"pathmnu3", "folder_move", Command::FolderMove},
+    CommandName{"pathmnu4", "folder_delete", Command::FolderDelete},
+    CommandName{"expandmnu0", "folder_expandsel", Command::FolderExpandSel},
+    CommandName{"expandmnu1", "folder_collapsesel", Command::FolderCollapseSel},
+    CommandName{"expandmnu2", "folder_expandall", Command::FolderExpandAll},
+    CommandName{"expandmnu3", "folder_collapseall", Command::FolderCollapseAll},
+    CommandName{"viewmnu0", "document_view_subview", Command::ViewSubView},
+    CommandName{"viewmnu4", "document_view_list", Command::ViewList},
+    CommandName{"viewmnu2", "document_view_smallicon", Command::ViewSmallIcons},
+    CommandName{"viewmnu3", "document_view_icon", Command::ViewLargeIcons},
+    // Its other name is taken by the row above, so only the menu key reaches it.
+    CommandName{"viewmnu5", "document_view_icon", Command::ViewReport},
+    CommandName{"reportstylemnu0", "document_view_savecols", Command::ViewSaveColumns},
 };
 
 struct PrefixCommand {
@@ -32,6 +47,7 @@ struct PrefixCommand {
 // Tried in this order when no name of the table matches.
 constexpr std::array kPrefixCommands{
     PrefixCommand{"recentfile", Command::RecentFile},
+    PrefixCommand{"chset", Command::ColumnSetting},
 };
 
 }  // namespace

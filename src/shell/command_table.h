@@ -25,7 +25,22 @@ enum class Command {
     DocumentSaveAs,
     DocumentClose,
     Quit,
-    RecentFile,  // the argument is the rest of the name: the number of the menu entry
+    FolderCreate,
+    FolderProperties,
+    FolderMove,
+    FolderDelete,
+    FolderExpandSel,
+    FolderCollapseSel,
+    FolderExpandAll,
+    FolderCollapseAll,
+    ViewSubView,
+    ViewList,
+    ViewSmallIcons,
+    ViewLargeIcons,
+    ViewReport,
+    ViewSaveColumns,
+    RecentFile,     // the argument is the rest of the name: the number of the menu entry
+    ColumnSetting,  // the argument is the number of the column-setting menu entry
 };
 
 // One row of the name table: the menu entry's key and the name for tool bars and

@@ -8,7 +8,9 @@
 #include <algorithm>
 
 #include "document/frmDocument.h"
+#include "document/list_appearance.h"
 #include "shell/cleanup_window.h"
+#include "shell/column_setting_name.h"
 #include "shell/command_file.h"
 #include "shell/command_table.h"
 #include "shell/common.h"
@@ -57,6 +59,7 @@ frmMain::~frmMain() {
 void frmMain::MDIForm_Load() {
     LoadRecentList(common_);
     RecentRefresh();
+    CheadRefresh();
     WindowSettings settings = LoadWindowSettings(common_);
     applyWindowSettings(settings);
     resizeDocks({news_}, {220}, Qt::Horizontal);
@@ -116,9 +119,88 @@ void frmMain::ZVXCoreCalls(const std::string& name) {
         case Command::RecentFile:
             openRecent(resolved.argument);
             break;
+        case Command::ColumnSetting:
+            loadColumnSetting(resolved.argument);
+            break;
+        case Command::ViewSaveColumns:
+            saveColumnSetting();
+            break;
         case Command::None:
             break;
+        default:
+            documentCommand(resolved.command);
+            break;
     }
+}
+
+frmDocument* frmMain::activeDocument() const {
+    return dynamic_cast<frmDocument*>(activeView());
+}
+
+// The commands that act on the active document window.
+void frmMain::documentCommand(Command command) {
+    frmDocument* document = activeDocument();
+    if (!document)
+        return;
+    switch (command) {
+        case Command::FolderCreate:
+            document->crefolder_Click();
+            break;
+        case Command::FolderProperties:
+            document->Folderprefs_Click();
+            break;
+        case Command::FolderMove:
+            document->movfolder_Click();
+            break;
+        case Command::FolderDelete:
+            document->delFolder_Click();
+            break;
+        case Command::FolderExpandSel:
+            document->expselmnu_Click();
+            break;
+        case Command::FolderCollapseSel:
+            document->incselmnu_Click();
+            break;
+        case Command::FolderExpandAll:
+            document->expandmnu_Click();
+            break;
+        case Command::FolderCollapseAll:
+            document->increasemnu_Click();
+            break;
+        case Command::ViewSubView:
+            document->setSubViewing(!document->SubViewIng());
+            break;
+        case Command::ViewList:
+            document->setListStyle(kListStyle);
+            break;
+        case Command::ViewSmallIcons:
+            document->setListStyle(kSmallIconStyle);
+            break;
+        case Command::ViewLargeIcons:
+            document->setListStyle(kLargeIconStyle);
+            break;
+        case Command::ViewReport:
+            document->setListStyle(kReportStyle);
+            break;
+        default:
+            break;
+    }
+    RealMenuSelectionizer();
+}
+
+void frmMain::loadColumnSetting(const std::string& number) {
+    QAction* entry = menuEntry(QString::fromStdString("chset" + number));
+    frmDocument* document = activeDocument();
+    if (entry && document)
+        document->loadColumnSetting(FromQString(entry->data().toString()));
+}
+
+void frmMain::saveColumnSetting() {
+    frmDocument* document = activeDocument();
+    if (!document)
+        return;
+    document->saveColumnSetting(AskColumnSettingName(common_));
+    CheadRefresh();
 }
 
 void frmMain::AskQuit() {
@@ -164,6 +246,13 @@ DocumentView* frmMain::createView(const std::string& caption) {
     if (previous)
         window->move(previous->pos() + QPoint(24, 24));
     window->setWindowIcon(ThemeIcon("document-open"));
+    document->workingCopy = [this, document] {
+        Document* open = lifecycle_->find(document);
+        return open ? open->cfn : std::filesystem::path();
+    };
+    document->onSelectionChanged = [this] { updateDocumentState(); };
+    document->onSummary = [this](const std::string& text) { setSummary(ToQString(text)); };
+    document->coreCalls = [this](const std::string& name) { ZVXCoreCalls(name); };
     document->onClose = [this, document] {
         if (Document* open = lifecycle_->find(document))
             lifecycle_->Close(*open);

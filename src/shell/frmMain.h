@@ -9,6 +9,7 @@
 
 #include "document/document_lifecycle.h"
 #include "document/document_view.h"
+#include "shell/command_table.h"
 #include "shell/estimator.h"
 #include "shell/status_line.h"
 #include "shell/tool_bar.h"
@@ -28,6 +29,7 @@ class Clock;
 class Common;
 class Desktop;
 class NewsPanel;
+class frmDocument;
 class frmSplash;
 
 class frmMain : public QMainWindow, public DocumentWindows {
@@ -53,6 +55,10 @@ class frmMain : public QMainWindow, public DocumentWindows {
     void setSummary(const QString& text);
 
     void RecentRefresh();
+    // Rebuilds the menu of column settings from the .zvl files.
+    void CheadRefresh();
+    // The view menu's checks for the active window: sub-view and list style.
+    void RealMenuSelectionizer();
     void barmenustate();
     void RealSelectionizer(const SelectionState& state, bool keepFolderItems);
     // Applies the active document's selection to menus and tool bar (none: all off).
@@ -83,6 +89,10 @@ class frmMain : public QMainWindow, public DocumentWindows {
 
   private:
     void buildMenus();
+    frmDocument* activeDocument() const;
+    void documentCommand(Command command);
+    void loadColumnSetting(const std::string& number);
+    void saveColumnSetting();
     void buildToolBars();
     void buildStatusBar();
     QAction* addEntry(QMenu* menu, const char* key, const QString& caption,
@@ -106,6 +116,7 @@ class frmMain : public QMainWindow, public DocumentWindows {
     QMdiArea* mdi_;
     NewsPanel* news_;
     QMenu* fileMenu_ = nullptr;
+    QMenu* columnMenu_ = nullptr;
     QAction* recentTOP_ = nullptr;
     QToolBar* Toolbar1_ = nullptr;
     QToolBar* ProgressBand_ = nullptr;

@@ -6,7 +6,9 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include "document/column_layout.h"
 #include "document/frmDocument.h"
+#include "document/list_appearance.h"
 #include "shell/common.h"
 #include "shell/frmMain.h"
 #include "shell/recent_list.h"
@@ -52,6 +54,29 @@ void frmMain::buildMenus() {
     connect(statusBarEntry, &QAction::triggered, this,
             [this](bool shown) { statusBar()->setVisible(shown); });
 
+    view->addSeparator();
+    addEntry(view, "viewmnu0", "Su&b-View", "view-list-tree")->setCheckable(true);
+    addEntry(view, "viewmnu4", "&List")->setCheckable(true);
+    addEntry(view, "viewmnu2", "S&mall Icons")->setCheckable(true);
+    addEntry(view, "viewmnu3", "Lar&ge Icons")->setCheckable(true);
+    addEntry(view, "viewmnu5", "&Report")->setCheckable(true);
+    view->addSeparator();
+    columnMenu_ = view->addMenu("&Columns");
+    columnMenu_->setObjectName("chsetTOP");
+    addEntry(view, "reportstylemnu0", "&Save Column Setting...");
+
+    QMenu* folders = menuBar()->addMenu("F&older");
+    folders->setObjectName("pathmnuTOP");
+    addEntry(folders, "pathmnu0", "&New Folder...", "folder-new");
+    addEntry(folders, "pathmnu1", "&Properties...", "document-properties");
+    addEntry(folders, "pathmnu3", "&Move...");
+    addEntry(folders, "pathmnu4", "&Delete", "edit-delete");
+    folders->addSeparator();
+    addEntry(folders, "expandmnu0", "&Expand Selected");
+    addEntry(folders, "expandmnu1", "&Collapse Selected");
+    addEntry(folders, "expandmnu2", "Expand &All");
+    addEntry(folders, "expandmnu3", "Collapse A&ll");
+
     QMenu* windows = menuBar()->addMenu("&Window");
     windows->setObjectName("mnuwinTOP");
     addEntry(windows, "mnuwin0", "&Cascade", "window-cascade");
@@ -90,6 +115,30 @@ void frmMain::RecentRefresh() {
         connect(entry, &QAction::triggered, this, [this, key] { ZVXCoreCalls(key); });
         fileMenu_->insertAction(before, entry);
     }
+}
+
+void frmMain::CheadRefresh() {
+    for (QAction* entry : columnMenu_->actions())
+        entry->deleteLater();
+    columnMenu_->clear();
+    const std::vector<std::string> names = ColumnSettingNames(common_);
+    for (size_t i = 0; i < names.size(); ++i) {
+        const std::string key = "chset" + std::to_string(i);
+        QAction* entry = columnMenu_->addAction(ToQString(names[i]));
+        entry->setObjectName(QString::fromStdString(key));
+        entry->setData(ToQString(names[i]));
+        connect(entry, &QAction::triggered, this, [this, key] { ZVXCoreCalls(key); });
+    }
+}
+
+void frmMain::RealMenuSelectionizer() {
+    frmDocument* document = activeDocument();
+    const int style = document ? document->listStyle() : -1;
+    menuEntry("viewmnu0")->setChecked(document && document->SubViewIng());
+    menuEntry("viewmnu4")->setChecked(style == kListStyle);
+    menuEntry("viewmnu2")->setChecked(style == kSmallIconStyle);
+    menuEntry("viewmnu3")->setChecked(style == kLargeIconStyle);
+    menuEntry("viewmnu5")->setChecked(style == kReportStyle);
 }
 
 void frmMain::barmenustate() {

@@ -5,6 +5,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "document/frmDocument.h"
 #include "shell/frmMain.h"
 #include "shell/selection_update.h"
 #include "ui/icons.h"

@@ -72,7 +72,8 @@ MsgAnswer AnswerOf(int button) {
 MsgAnswer QtScreen::message(const std::string& caption, const std::string& text, MsgButtons buttons,
                             MsgIcon icon) {
     QMessageBox box(IconOf(icon), caption.empty() ? kProgramTitle : ToQString(caption),
-                    ToQString(text).replace("\r\n", "\n"), ButtonsOf(buttons), parent());
+                    ToQString(text).replace("\r\n", "\n").replace(QChar('\r'), QChar('\n')),
+                    ButtonsOf(buttons), parent());
     box.setObjectName("MsgBox");
     return AnswerOf(box.exec());
 }

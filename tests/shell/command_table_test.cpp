@@ -29,7 +29,16 @@ TEST(ResolveCommand, EveryMenuKeySelectsItsOwnRow) {
     for (const CommandName& row : names)
         EXPECT_EQ(ResolveCommand(row.menuKey).command, row.command) << row.menuKey;
     EXPECT_EQ(names.front().menuKey, "mbarstandard");
-    EXPECT_EQ(names.back().menuKey, "mnufile6");
+    EXPECT_EQ(names.back().menuKey, "reportstylemnu0");
+}
+
+TEST(ResolveCommand, TheFirstOfTwoEqualNamesWins) {
+    // "document_view_icon" names both large icons and the report style.
+    EXPECT_EQ(ResolveCommand("document_view_icon").command, Command::ViewLargeIcons);
+    EXPECT_EQ(ResolveCommand("viewmnu5").command, Command::ViewReport);
+    const ResolvedCommand chset = ResolveCommand("chset2");
+    EXPECT_EQ(chset.command, Command::ColumnSetting);
+    EXPECT_EQ(chset.argument, "2");
 }
 
 TEST(ResolveCommand, RecentFileTakesTheRestAsArgument) {
@@ -45,6 +54,7 @@ TEST(ResolveCommand, RecentFileTakesTheRestAsArgument) {
 
 TEST(ResolveCommand, UnknownNamesAreIgnored) {
     EXPECT_EQ(ResolveCommand("no_such_command").command, Command::None);
+    EXPECT_EQ(ResolveCommand("entry_add_wizard").command, Command::None);  // not yet built
     // A separator's tag gives the empty name, which selects nothing.
     EXPECT_EQ(ResolveCommand(CommandOfTag("xxx_")).command, Command::None);
 }

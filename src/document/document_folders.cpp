@@ -1,0 +1,95 @@
+// The folder commands of a document window.
+
+#include <QTreeWidget>
+
+#include "document/folder_navigation.h"
+#include "document/folder_operations.h"
+#include "document/folder_tree_widget.h"
+#include "document/folderprops.h"
+#include "document/frmDocument.h"
+#include "document/moving.h"
+#include "shell/common.h"
+
+namespace zvx {
+
+void frmDocument::crefolder_Click() {
+    folderprops dialog(common_, true, NewFolderProps(common_, !tree_.empty()), this);
+    const std::optional<FolderDialogResult> result = dialog.showing();
+    if (!result)
+        return;
+    applyFolderChange(CreateFolder(common_, cfn(), tree_, selectedFolder(), *result).changed, {});
+}
+
+void frmDocument::Folderprefs_Click() {
+    const int node = selectedFolder();
+    if (node < 0)
+        return;
+    folderprops dialog(common_, false, FolderPropsOf(tree_.nodes[static_cast<size_t>(node)]), this);
+    const std::optional<FolderDialogResult> result = dialog.showing();
+    if (!result)
+        return;
+    applyFolderChange(ChangeFolderProperties(common_, cfn(), tree_, node, *result).changed, {});
+}
+
+void frmDocument::delFolder_Click() {
+    if (selectedFolder() < 0 || !ConfirmFolderDelete(common_))
+        return;
+    applyFolderChange(DeleteFolder(common_, cfn(), tree_, selectedFolder()).changed, {});
+}
+
+void frmDocument::movfolder_Click() {
+    const int node = selectedFolder();
+    if (node < 0)
+        return;
+    ShowPreparingFolderMove(common_);
+    moving dialog(common_, MovingMode::Folder,
+                  SetUpMoving(common_, cfn(), MovingMode::Folder, node), this);
+    const std::string target = dialog.showing();
+    const FolderNode& source = tree_.nodes[static_cast<size_t>(node)];
+    const FolderChange change =
+        extrememoving(common_, cfn(), tree_, source.fullPath, source.text, target);
+    applyFolderChange(change.changed, change.reselect);
+}
+
+// After a change of the working copy: the tree and the list anew, and the folder that
+// moved selected again.
+void frmDocument::applyFolderChange(bool changed, const std::string& reselect) {
+    if (!changed)
+        return;
+    refresh_Click();
+    const int node = reselect.empty() ? -1 : pathextrude(tree_, reselect);
+    if (node < 0 || static_cast<size_t>(node) >= items_.size())
+        return;
+    QTreeWidgetItem* item = items_[static_cast<size_t>(node)];
+    List2_->setCurrentItem(item);
+    List2_->scrollToItem(item);
+    item->setExpanded(true);
+}
+
+void frmDocument::expandmnu_Click() {
+    common_.screen().status(kExpandingStatus);
+    List2_->expandAll();
+    common_.screen().status("");
+}
+
+void frmDocument::increasemnu_Click() {
+    common_.screen().status(kCollapsingStatus);
+    List2_->collapseAll();
+    common_.screen().status("");
+}
+
+void frmDocument::expselmnu_Click() {
+    common_.screen().status(kExpandingStatus);
+    for (int node : SelectedBranch(tree_, selectedFolder()))
+        items_[static_cast<size_t>(node)]->setExpanded(true);
+    common_.screen().status("");
+}
+
+void frmDocument::incselmnu_Click() {
+    common_.screen().status(kCollapsingStatus);
+    for (int node : SelectedBranch(tree_, selectedFolder()))
+        items_[static_cast<size_t>(node)]->setExpanded(false);
+    common_.screen().status("");
+}
+
+}  // namespace zvx

@@ -1,0 +1,175 @@
+// The entry list of a document window: listing, styles, columns, sorting, summary.
+
+#include <QAction>
+#include <QHeaderView>
+#include <QListView>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTimer>
+#include <QTreeView>
+#include <QTreeWidget>
+
+#include "document/column_layout.h"
+#include "document/entry_list_model.h"
+#include "document/frmDocument.h"
+#include "document/list_appearance.h"
+#include "platform/file_error.h"
+#include "shell/common.h"
+#include "shell/summary_text.h"
+
+namespace zvx {
+
+namespace {
+constexpr int kColumnWidth = 100;
+}
+
+void frmDocument::buildList() {
+    model_ = new EntryListModel(common_.settings, this);
+    views_ = new QStackedWidget;
+    ListView1_ = new QTreeView;
+    ListView1_->setObjectName("ListView1");
+    ListView1_->setRootIsDecorated(false);
+    ListView1_->setUniformRowHeights(true);
+    ListView1_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    ListView1_->setModel(model_);
+    ListView1_->header()->setSectionsMovable(true);
+    ListView1_->header()->setSectionsClickable(true);
+    iconView_ = new QListView;
+    iconView_->setObjectName("ListView1Icons");
+    iconView_->setModel(model_);
+    iconView_->setSelectionModel(ListView1_->selectionModel());
+    iconView_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    iconView_->setResizeMode(QListView::Adjust);
+    views_->addWidget(ListView1_);
+    views_->addWidget(iconView_);
+    Tabthing_->addTab(views_, "Entries");
+
+    const ListAppearance look = ReadListAppearance(common_);
+    ListView1_->setSelectionBehavior(look.selRow ? QAbstractItemView::SelectRows
+                                                 : QAbstractItemView::SelectItems);
+    ListView1_->setAlternatingRowColors(look.showGrid);
+    ListView1_->setMouseTracking(look.hot || look.hover);
+
+    // Timer1: a burst of selection changes is summed up once.
+    Timer1_ = new QTimer(this);
+    Timer1_->setObjectName("Timer1");
+    Timer1_->setSingleShot(true);
+    Timer1_->setInterval(0);
+    connect(Timer1_, &QTimer::timeout, this, &frmDocument::summarize);
+    connect(ListView1_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        Timer1_->start();
+        if (onSelectionChanged)
+            onSelectionChanged();
+    });
+    connect(ListView1_->header(), &QHeaderView::sectionClicked, this,
+            [this](int logical) { sortBy(logical + 1); });
+    auto execute = [this] {
+        if (coreCalls)
+            coreCalls("entry_execute");
+        if (onSelectionChanged)
+            onSelectionChanged();
+    };
+    connect(ListView1_, &QAbstractItemView::activated, this, execute);
+    connect(iconView_, &QAbstractItemView::activated, this, execute);
+    auto* selectAll = new QAction(this);
+    selectAll->setShortcut(QKeySequence::SelectAll);
+    selectAll->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(selectAll, &QAction::triggered, this, [this] {
+        if (coreCalls)
+            coreCalls("document_select_all");
+    });
+    addAction(selectAll);
+}
+
+void frmDocument::ShowEntries() {
+    ListingSelection selection;
+    selection.hasFolders = !tree_.empty();
+    const int node = selectedFolder();
+    if (node >= 0) {
+        selection.folderId = tree_.nodes[static_cast<size_t>(node)].id();
+        selection.fullPath = tree_.nodes[static_cast<size_t>(node)].fullPath;
+    }
+    selection.SubViewIng = subViewing_;
+    model_->setRows(zvx::ShowEntries(common_, cfn(), selection, buffer_));
+    if (sorted_)
+        applySort();
+    summarize();
+    if (onSelectionChanged)
+        onSelectionChanged();
+}
+
+void frmDocument::setSubViewing(bool on) {
+    subViewing_ = on;
+    ShowEntries();
+}
+
+void frmDocument::setListStyle(int style) {
+    listStyle_ = style;
+    if (style == kReportStyle) {
+        views_->setCurrentWidget(ListView1_);
+        return;
+    }
+    iconView_->setViewMode(style == kLargeIconStyle ? QListView::IconMode : QListView::ListMode);
+    iconView_->setFlow(style == kListStyle ? QListView::TopToBottom : QListView::LeftToRight);
+    iconView_->setWrapping(true);
+    iconView_->setIconSize(style == kLargeIconStyle ? QSize(32, 32) : QSize(16, 16));
+    views_->setCurrentWidget(iconView_);
+}
+
+void frmDocument::loadColumnSetting(const std::string& name) {
+    ListLayout layout(kListColumnCount, kColumnWidth);
+    try {
+        LoadColumnSetting(common_, layout, name, false);
+    } catch (const FileError&) {
+        return;  // a missing layout leaves the columns as they are
+    }
+    QHeaderView* header = ListView1_->header();
+    const std::vector<int>& order = layout.order();
+    for (size_t position = 0; position < order.size(); ++position) {
+        const int logical = order[position] - 1;
+        header->moveSection(header->visualIndex(logical), static_cast<int>(position));
+        const int width = layout.width(order[position]);
+        header->setSectionHidden(logical, width == 0);
+        if (width > 0)
+            header->resizeSection(logical, width);
+    }
+    sort_ = layout.sort;
+}
+
+void frmDocument::saveColumnSetting(const std::string& name) {
+    QHeaderView* header = ListView1_->header();
+    ListLayout layout(kListColumnCount, kColumnWidth);
+    for (int visual = 0; visual < kListColumnCount; ++visual) {
+        const int column = header->logicalIndex(visual) + 1;
+        layout.setPosition(column, visual + 1);
+        layout.setWidth(column,
+                        header->isSectionHidden(column - 1) ? 0 : header->sectionSize(column - 1));
+    }
+    layout.sort = sort_;
+    SaveColumnSetting(common_, layout, name, false);
+}
+
+void frmDocument::sortBy(int column) {
+    ColumnClick(sort_, column);
+    sorted_ = true;
+    applySort();
+}
+
+void frmDocument::applySort() {
+    model_->setOrder(SortedRowOrder(model_->rows(), sort_, common_.settings));
+    ListView1_->header()->setSortIndicatorShown(true);
+    ListView1_->header()->setSortIndicator(sort_.SortKey, sort_.SortOrder == kSortAscending
+                                                              ? Qt::AscendingOrder
+                                                              : Qt::DescendingOrder);
+}
+
+void frmDocument::summarize() {
+    SelectionTotals totals;
+    const QItemSelectionModel* selection = ListView1_->selectionModel();
+    for (int row = 0; row < model_->rowCount(); ++row)
+        totals.add(EntryItem(model_->lineAt(row), 2), selection->isRowSelected(row, {}));
+    if (onSummary)
+        onSummary(zvx::summarize(totals));
+}
+
+}  // namespace zvx

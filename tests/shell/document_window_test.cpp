@@ -1,0 +1,105 @@
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <QTreeView>
+#include <QTreeWidget>
+
+#include "document/frmDocument.h"
+#include "main_window_fixture.h"
+#include "shell/common.h"
+#include "shell/config_files.h"
+#include "support/catalogue_bytes.h"
+
+namespace zvx {
+namespace {
+
+using test::EntryLineOf;
+
+class DocumentWindowTest : public test::MainWindowTest {
+  protected:
+    frmDocument* open() {
+        PrepareConfigFiles(env.common);
+        main->CheadRefresh();
+        const auto file = env.folder / "music.zvx";
+        test::WriteAll(file, test::CatalogueBytes(
+                                 {{"Music\\", "songs", 10, "00000000"},
+                                  {"Photos\\", "", 11, "00000002"},
+                                  {"Music\\Rock\\", "", 4, "00000001"}},
+                                 {EntryLineOf("00000000", {"a.mp3", "5", "c:\\m", "CD1", "1", "",
+                                                           "01-01-2000", "Audio: Album", "Song",
+                                                           "Band", "", "", "", "", "3", "0"}),
+                                  EntryLineOf("00000001", {"b.mp3", "1025"}),
+                                  EntryLineOf("00000002", {"c.jpg", "10"})}));
+        env.common.pendingDocument = file.string();
+        main->ZVXCoreCalls("document_open");
+        return dynamic_cast<frmDocument*>(documents().at(0)->widget());
+    }
+    static QString Cell(frmDocument* document, int row, int column) {
+        auto* list = document->findChild<QTreeView*>("ListView1");
+        return list->model()->index(row, column).data().toString();
+    }
+};
+
+TEST_F(DocumentWindowTest, OpeningShowsTheTreeAndTheFirstFoldersEntries) {
+    frmDocument* document = open();
+    auto* tree = document->findChild<QTreeWidget*>("List2");
+    ASSERT_EQ(tree->topLevelItemCount(), 2);
+    EXPECT_EQ(tree->topLevelItem(0)->text(0), "Music");
+    EXPECT_EQ(tree->topLevelItem(0)->child(0)->text(0), "Rock");
+    EXPECT_EQ(document->findChild<QLabel*>("Label1")->text(), "Folder: Music (songs)");
+    auto* list = document->findChild<QTreeView*>("ListView1");
+    ASSERT_EQ(list->model()->rowCount(), 1);
+    EXPECT_EQ(Cell(document, 0, 0), "a.mp3");
+    EXPECT_EQ(Cell(document, 0, 1), "000 000 000 005");
+    EXPECT_EQ(Cell(document, 0, 4), "Yes");
+    EXPECT_EQ(Cell(document, 0, 14), "03");   // the track format of the view
+    EXPECT_EQ(Cell(document, 0, 15), "");     // year 0
+    EXPECT_EQ(Cell(document, 0, 21), "n/a");  // no mode
+    screenshot(main.get(), "document_window");
+
+    main->ZVXCoreCalls("document_view_subview");
+    EXPECT_EQ(list->model()->rowCount(), 2);
+    EXPECT_TRUE(main->menuEntry("viewmnu0")->isChecked());
+}
+
+TEST_F(DocumentWindowTest, AudioShortShowsSixColumns) {
+    frmDocument* document = open();
+    QAction* audioShort = nullptr;
+    for (int i = 0; QAction* entry = main->menuEntry(QString("chset%1").arg(i)); ++i)
+        if (entry->text() == "Audio-Short")
+            audioShort = entry;
+    ASSERT_NE(audioShort, nullptr);
+    audioShort->trigger();
+    auto* list = document->findChild<QTreeView*>("ListView1");
+    QStringList shown;
+    for (int visual = 0; visual < 22; ++visual) {
+        const int logical = list->header()->logicalIndex(visual);
+        if (!list->header()->isSectionHidden(logical))
+            shown << list->model()->headerData(logical, Qt::Horizontal).toString();
+    }
+    EXPECT_EQ(shown, (QStringList{"Track", "Artist", "Title", "Length", "Album", "Year"}));
+}
+
+TEST_F(DocumentWindowTest, ANewFolderComesFromItsDialog) {
+    frmDocument* document = open();
+    QTimer::singleShot(0, [] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->objectName(), "folderprops");
+        dialog->findChild<QLineEdit*>("Text1")->setText("Films");
+        dialog->findChild<QRadioButton*>("Option2")->setChecked(true);
+        dialog->findChild<QPushButton*>("Command1")->click();
+    });
+    main->ZVXCoreCalls("folder_create");
+    auto* tree = document->findChild<QTreeWidget*>("List2");
+    ASSERT_EQ(tree->topLevelItemCount(), 3);
+    EXPECT_EQ(tree->topLevelItem(0)->text(0), "Films");
+    ASSERT_FALSE(env.screen.unanswered());
+}
+
+}  // namespace
+}  // namespace zvx
