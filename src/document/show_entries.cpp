@@ -4,6 +4,7 @@
 #include <optional>
 #include <system_error>
 
+#include "document/progress_steps.h"
 #include "document/sub_view.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
@@ -33,25 +34,6 @@ std::string FileDateText(const std::filesystem::path& path) {
     auto time = std::filesystem::last_write_time(path, ec);
     return ec ? std::string() : std::to_string(time.time_since_epoch().count());
 }
-
-// Hands progress values on to the screen only when the bar moves by a thousandth of
-// its length, so that a million lines do not mean a million redraws.
-class ProgressPacer {
-  public:
-    ProgressPacer(Common& common, long long maximum)
-        : common_(common), step_(std::max(1LL, maximum / 1000)) {}
-    void set(long long value) {
-        if (value < next_)
-            return;
-        common_.setProgress(value);
-        next_ = value + step_;
-    }
-
-  private:
-    Common& common_;
-    long long step_;
-    long long next_ = 0;
-};
 
 // One listing: the passes and the view-buffer bookkeeping of their end.
 class Listing {
@@ -121,8 +103,7 @@ bool Listing::readEntries() {
 // their count, and no line is read.
 void Listing::countBufferedLines() {
     const long long count = buffer_.BufferCount;
-    common_.setProgressMax(count == 0 ? 1 : count);
-    ProgressPacer progress(common_, count);
+    ProgressSteps progress(common_, count == 0 ? 1 : count);
     counter_ = 1;
     for (;;) {
         progress.set(counter_);
@@ -134,7 +115,7 @@ void Listing::countBufferedLines() {
 template <class Wants>
 bool Listing::readLines(LineReader& reader, long long fileLength, Wants wants) {
     const bool counting = buffering();
-    ProgressPacer progress(common_, fileLength + 1);
+    ProgressSteps progress(common_, fileLength + 1);
     counter_ = 1;
     std::string_view line;
     while (reader.next(line)) {

@@ -38,24 +38,24 @@ void frmMain::buildToolBars() {
     Toolbar1_ = addToolBar("Standard");
     Toolbar1_->setObjectName("Toolbar1");
     Toolbar1_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    for (const ToolButton& spec : MainToolBar()) {
-        if (spec.separator) {
+    for (const ToolButton& entry : MainToolBar()) {
+        if (entry.separator) {
             Toolbar1_->addSeparator();
             continue;
         }
         auto* button = new QToolButton;
-        button->setObjectName(Text(spec.tag));
-        button->setProperty("tag", Text(spec.tag));
-        button->setText(Text(spec.label));
-        button->setToolTip(Text(spec.toolTip));
-        button->setIcon(ThemeIcon(IconOfButton(spec.label)));
+        button->setObjectName(Text(entry.tag));
+        button->setProperty("tag", Text(entry.tag));
+        button->setText(Text(entry.label));
+        button->setToolTip(Text(entry.toolTip));
+        button->setIcon(ThemeIcon(IconOfButton(entry.label)));
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setAutoRaise(true);
-        const std::string command = CommandOfTag(spec.tag);
+        const std::string command = CommandOfTag(entry.tag);
         connect(button, &QToolButton::clicked, this, [this, command] { ZVXCoreCalls(command); });
-        if (!spec.dropDown.empty()) {
+        if (!entry.dropDown.empty()) {
             auto* menu = new QMenu(button);
-            for (const ToolDropDownItem& item : spec.dropDown) {
+            for (const ToolDropDownItem& item : entry.dropDown) {
                 QAction* action = menu->addAction(Text(item.label));
                 action->setProperty("tag", Text(item.tag));
                 const std::string itemCommand = CommandOfTag(item.tag);
