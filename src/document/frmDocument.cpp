@@ -17,6 +17,7 @@
 #include "document/column_layout.h"
 #include "document/entry_list_model.h"
 #include "document/folder_caption.h"
+#include "document/folder_navigation.h"
 #include "document/folder_refresh.h"
 #include "document/folder_tree_widget.h"
 #include "document/list_appearance.h"
@@ -105,9 +106,15 @@ void frmDocument::showTree(int select, bool expand) {
             item->setExpanded(true);
     }
     filling_ = false;
+    showCaption();
+}
+
+// folderstats: the folder line, with the folder's path as its Tag.
+void frmDocument::showCaption() {
     const FolderCaption caption = folderstats(tree_, selectedFolder());
     Label1_->setText(ToQString(caption.caption));
     Label1_->setToolTip(ToQString(caption.caption));
+    Label1_->setProperty("Tag", ToQString(caption.tag));
 }
 
 int frmDocument::selectedFolder() const {
@@ -116,9 +123,7 @@ int frmDocument::selectedFolder() const {
 
 // A node click: the folder line and the listing.
 void frmDocument::folderSelected() {
-    const FolderCaption caption = folderstats(tree_, selectedFolder());
-    Label1_->setText(ToQString(caption.caption));
-    Label1_->setToolTip(ToQString(caption.caption));
+    showCaption();
     ShowEntries();
 }
 

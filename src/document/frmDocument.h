@@ -85,6 +85,7 @@ class frmDocument : public QWidget, public DocumentView {
     void buildList();
     void showTree(int select, bool expand);
     void folderSelected();
+    void showCaption();
     void applyFolderChange(bool changed, const std::string& reselect);
     void sortBy(int column);
     void applySort();
