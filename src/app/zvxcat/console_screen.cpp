@@ -65,12 +65,14 @@ std::string PromptFor(const std::vector<MsgAnswer>& choices) {
     return prompt + "? ";
 }
 
-// The texts of the system end lines with CR LF; a terminal wants LF.
+// The texts of the system end lines with CR LF or a lone CR; a terminal wants LF.
 std::string TerminalText(const std::string& text) {
     std::string out;
-    for (char c : text) {
-        if (c != '\r')
-            out += c;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r')
+            out += text[i];
+        else if (i + 1 == text.size() || text[i + 1] != '\n')
+            out += '\n';
     }
     return out;
 }
