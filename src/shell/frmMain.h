@@ -119,6 +119,7 @@ class frmMain : public QMainWindow, public DocumentWindows {
     QMenu* columnMenu_ = nullptr;
     QAction* recentTOP_ = nullptr;
     QToolBar* Toolbar1_ = nullptr;
+    QToolBar* ViewBar_ = nullptr;
     QToolBar* ProgressBand_ = nullptr;
     QProgressBar* ProgressBar1_ = nullptr;
     QLabel* panels_[3] = {};

@@ -56,10 +56,10 @@ void frmMain::buildMenus() {
 
     view->addSeparator();
     addEntry(view, "viewmnu0", "Su&b-View", "view-list-tree")->setCheckable(true);
-    addEntry(view, "viewmnu4", "&List")->setCheckable(true);
-    addEntry(view, "viewmnu2", "S&mall Icons")->setCheckable(true);
-    addEntry(view, "viewmnu3", "Lar&ge Icons")->setCheckable(true);
-    addEntry(view, "viewmnu5", "&Report")->setCheckable(true);
+    addEntry(view, "viewmnu4", "&List", "view-list-text")->setCheckable(true);
+    addEntry(view, "viewmnu2", "S&mall Icons", "view-list-icons")->setCheckable(true);
+    addEntry(view, "viewmnu3", "Lar&ge Icons", "view-grid")->setCheckable(true);
+    addEntry(view, "viewmnu5", "&Report", "view-list-details")->setCheckable(true);
     view->addSeparator();
     columnMenu_ = view->addMenu("&Columns");
     columnMenu_->setObjectName("chsetTOP");
@@ -144,6 +144,7 @@ void frmMain::RealMenuSelectionizer() {
 void frmMain::barmenustate() {
     const bool coolBar = CoolBarVisible(bars_);
     Toolbar1_->setVisible(coolBar && bars_[0]);
+    ViewBar_->setVisible(coolBar && bars_[0]);
     ProgressBand_->setVisible(coolBar && bars_[3]);
     menuEntry("mbarstandard")->setChecked(bars_[0]);
     menuEntry("mbarprogress")->setChecked(bars_[3]);

@@ -67,6 +67,11 @@ void frmMain::buildToolBars() {
         }
         Toolbar1_->addWidget(button);
     }
+    // The view buttons: the view menu's own entries, so their checks are one.
+    ViewBar_ = addToolBar("View");
+    ViewBar_->setObjectName("Toolbar2");
+    for (const char* key : {"viewmnu0", "viewmnu4", "viewmnu2", "viewmnu3", "viewmnu5"})
+        ViewBar_->addAction(menuEntry(key));
     ProgressBand_ = addToolBar("Progress");
     ProgressBand_->setObjectName("ProgressBand");
     ProgressBar1_ = new QProgressBar;
