@@ -66,6 +66,22 @@ TEST_F(DocumentWindowTest, OpeningShowsTheTreeAndTheFirstFoldersEntries) {
     EXPECT_TRUE(main->menuEntry("viewmnu0")->isChecked());
 }
 
+TEST_F(DocumentWindowTest, EachListStyleShowsTheRows) {
+    frmDocument* document = open();
+    main->ZVXCoreCalls("document_view_subview");
+    const std::pair<const char*, int> styles[] = {
+        {"viewmnu4", 2}, {"viewmnu2", 1}, {"viewmnu3", 0}, {"viewmnu5", 3}};
+    for (const auto& [key, style] : styles) {
+        main->ZVXCoreCalls(key);
+        EXPECT_EQ(document->listStyle(), style);
+        EXPECT_TRUE(main->menuEntry(key)->isChecked());
+        screenshot(main.get(), (std::string("list_style_") + key).c_str());
+    }
+    // "document_view_icon" is the large icons' other name.
+    main->ZVXCoreCalls("document_view_icon");
+    EXPECT_EQ(document->listStyle(), 0);
+}
+
 TEST_F(DocumentWindowTest, AudioShortShowsSixColumns) {
     frmDocument* document = open();
     QAction* audioShort = nullptr;
@@ -90,6 +106,7 @@ TEST_F(DocumentWindowTest, ANewFolderComesFromItsDialog) {
         QWidget* dialog = QApplication::activeModalWidget();
         ASSERT_NE(dialog, nullptr);
         EXPECT_EQ(dialog->objectName(), "folderprops");
+        dialog->grab().save(QString(ZVX_SCREENSHOT_DIR) + "/folderprops.png");
         dialog->findChild<QLineEdit*>("Text1")->setText("Films");
         dialog->findChild<QRadioButton*>("Option2")->setChecked(true);
         dialog->findChild<QPushButton*>("Command1")->click();
