@@ -10,6 +10,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -23,6 +24,7 @@
 #include "document/list_appearance.h"
 #include "shell/common.h"
 #include "shell/summary_text.h"
+#include "ui/icons.h"
 #include "ui/text_codec.h"
 
 namespace zvx {
@@ -41,9 +43,23 @@ frmDocument::frmDocument(Common& common, QWidget* parent) : QWidget(parent), com
     auto* right = new QWidget;
     auto* rightLayout = new QVBoxLayout(right);
     rightLayout->setContentsMargins(0, 0, 0, 0);
+    auto* folderLine = new QHBoxLayout;
+    // nothemes: hides the tree (TreeHidden) and gives the list the whole window.
+    auto* nothemes = new QToolButton;
+    nothemes->setObjectName("nothemes");
+    nothemes->setCheckable(true);
+    nothemes->setAutoRaise(true);
+    nothemes->setIcon(ThemeIcon("view-list-tree"));
+    nothemes->setToolTip("Hide the folder tree");
+    connect(nothemes, &QToolButton::toggled, this, [this](bool hidden) {
+        TreeHidden_ = hidden;
+        List2_->setVisible(!hidden);
+    });
+    folderLine->addWidget(nothemes);
     Label1_ = new QLabel;
     Label1_->setObjectName("Label1");
-    rightLayout->addWidget(Label1_);
+    folderLine->addWidget(Label1_, 1);
+    rightLayout->addLayout(folderLine);
     Tabthing_ = new QTabWidget;
     Tabthing_->setObjectName("Tabthing");
     rightLayout->addWidget(Tabthing_);
@@ -87,7 +103,7 @@ void frmDocument::listak() {
     tree_ = zvx::listak(common_, cfn());
     const RefreshSelection selection = SelectAfterRefresh(common_, remembered, tree_);
     showTree(selection.node, selection.expand);
-    List2_->show();
+    List2_->setVisible(!TreeHidden_);
     common_.setProgress(0);
     common_.screen().status("");
     if (onSelectionChanged)

@@ -110,6 +110,7 @@ class frmDocument : public QWidget, public DocumentView {
     bool subViewing_ = false;
     int listStyle_ = 3;
     bool filling_ = false;
+    bool TreeHidden_ = false;
 };
 
 }  // namespace zvx

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
 
@@ -77,6 +78,12 @@ TEST_F(DocumentWindowTest, EachListStyleShowsTheRows) {
         EXPECT_TRUE(main->menuEntry(key)->isChecked());
         screenshot(main.get(), (std::string("list_style_") + key).c_str());
     }
+    // nothemes hides the tree, and a rebuild leaves it hidden.
+    auto* tree = document->findChild<QTreeWidget*>("List2");
+    document->findChild<QToolButton*>("nothemes")->click();
+    EXPECT_TRUE(tree->isHidden());
+    document->refresh_Click();
+    EXPECT_TRUE(tree->isHidden());
     // "document_view_icon" is the large icons' other name.
     main->ZVXCoreCalls("document_view_icon");
     EXPECT_EQ(document->listStyle(), 0);
