@@ -15,25 +15,28 @@ const Filters kZvxFilters{{"ZVX-Documents (*.zvx)", "*.zvx"}};
 const Filters kSaveFilters{{"All Files (*.*)", "*.*"}, {"ZVX-Documents (*.zvx)", "*.zvx"}};
 const Filters kAddFilters{{"All Files (*.*)", "*.*"}, {"MP3-Audio-Files (*.mp3)", "*.mp3"}};
 
-FileDialogRequest OpenRequest(std::string title, std::string action, std::string startFolder,
-                              const Filters& filters) {
+FileDialogRequest Request(std::string title, std::string action, std::string startFolder,
+                          const Filters& filters, int preselectedFilter) {
     FileDialogRequest request;
     request.title = std::move(title);
     request.actionButton = std::move(action);
     request.startFolder = std::move(startFolder);
     request.filters = filters;
-    request.preselectedFilter = 1;
+    request.preselectedFilter = preselectedFilter;
+    return request;
+}
+
+FileDialogRequest OpenRequest(std::string title, std::string action, std::string startFolder,
+                              const Filters& filters) {
+    FileDialogRequest request =
+        Request(std::move(title), std::move(action), std::move(startFolder), filters, 1);
     request.readOnlyBox = true;
     return request;
 }
 
 FileDialogRequest SaveRequest(std::string title, std::string action, std::string startFolder) {
-    FileDialogRequest request;
-    request.title = std::move(title);
-    request.actionButton = std::move(action);
-    request.startFolder = std::move(startFolder);
-    request.filters = kSaveFilters;
-    request.preselectedFilter = 2;
+    FileDialogRequest request =
+        Request(std::move(title), std::move(action), std::move(startFolder), kSaveFilters, 2);
     request.save = true;
     return request;
 }
