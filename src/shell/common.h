@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "shell/loaded_settings.h"
+#include "shell/media_values.h"
 #include "shell/screen.h"
 
 namespace zvx {
@@ -50,6 +51,10 @@ class Common {
     std::string DuplicateChoice;
     // Set when the user aborts an add run.
     bool AbortAdding = false;
+    // What the readers of the last media file found.
+    TagValues id3;
+    StreamValues stream;
+    ScanValues scan;
     // The counter of NextFolderID, set by ScanHighestFolderID.
     long long folderIdCounter = 0;
     // Set by a new sub-folder: the next rebuild of a tree with nodes expands the node it
