@@ -2,7 +2,11 @@
 
 #include <exception>
 
+#include "metadata/genres.h"
+#include "metadata/id3_tag.h"
 #include "platform/line_reader.h"
+#include "shell/common.h"
+#include "shell/numeric_value.h"
 #include "shell/text_case.h"
 
 namespace zvx {
@@ -10,6 +14,27 @@ namespace zvx {
 namespace {
 
 constexpr int kSummaryLines = 5;
+constexpr const char* kNotSet = "<not set>";
+
+void MarkNotSet(std::string& value) {
+    if (value.empty())
+        value = kNotSet;
+}
+
+// The tag values left empty read "<not set>" from now on, in the common module too.
+std::string TagSummary(Common& common, const std::filesystem::path& path) {
+    ReadID3Tag(common, path);
+    TagValues& tag = common.id3;
+    if (!tag.HasID3Tag)
+        return "Tagged: no\r<Other track information is unknown>";
+    for (std::string* value :
+         {&tag.TagProducer, &tag.TagTitle, &tag.TagAlbum, &tag.TagArtist, &tag.TagComment})
+        MarkNotSet(*value);
+    const int genre = static_cast<int>(RoundHalfEven(NumericValue(tag.TagGenre)));
+    return "Tagged: yes\rTrack: " + tag.TagTitle + "\rArtist: " + tag.TagArtist +
+           "\rAlbum: " + tag.TagAlbum + "\rGenre: " + std::string(GenreDisplayName(genre)) +
+           "\rComment: " + tag.TagComment;
+}
 
 std::string FirstTextLines(const std::filesystem::path& path) {
     LineReader reader(path);
@@ -24,9 +49,10 @@ std::string FirstTextLines(const std::filesystem::path& path) {
     return text;
 }
 
-// Each category with a summary of its own has its branch here; an mp3 file's summary
-// from its ID3 tag joins them with the tag reader (issue 5).
-std::string SummaryByCategory(const std::filesystem::path& path, std::string_view category) {
+std::string SummaryByCategory(Common& common, const std::filesystem::path& path,
+                              std::string_view category) {
+    if (category == "mp3")
+        return TagSummary(common, path);
     if (category == "txt")
         return FirstTextLines(path);
     return {};
@@ -34,11 +60,11 @@ std::string SummaryByCategory(const std::filesystem::path& path, std::string_vie
 
 }  // namespace
 
-std::string FileContentSummary(const std::filesystem::path& path,
+std::string FileContentSummary(Common& common, const std::filesystem::path& path,
                                std::string_view contentCategory) {
     const std::string category = LowerCase(contentCategory);
     try {
-        return SummaryByCategory(path, category);
+        return SummaryByCategory(common, path, category);
     } catch (const std::exception&) {
         return "Error while retrieving ZVX-Content information for: " + path.string() + " (" +
                category + ")";

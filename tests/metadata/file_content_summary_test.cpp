@@ -7,34 +7,65 @@
 namespace zvx {
 namespace {
 
-using test::TempFolder;
+using test::TestEnvironment;
 using test::WriteAll;
 
+// A file of one byte of sound and an ID3v1 block, padded with blanks, with title, artist
+// and genre.
+std::string TaggedFile(const std::string& title, const std::string& artist, char genre) {
+    std::string block = "TAG" + std::string(125, ' ');
+    block.replace(3, title.size(), title);
+    block.replace(33, artist.size(), artist);
+    block[127] = genre;
+    return "x" + block;
+}
+
 TEST(FileContentSummary, FirstFiveLinesOfATextFile) {
-    TempFolder folder;
+    TestEnvironment env;
+    const auto& folder = env.folder;
     WriteAll(folder / "a.txt", "\r\n\nthree\r\nfour\nfive\r\nsix\nseven\neight\r\n");
     // The two leading empty lines count towards the five, but do not show.
-    EXPECT_EQ(FileContentSummary(folder / "a.txt", "txt"), "three\rfour\rfive");
+    EXPECT_EQ(FileContentSummary(env.common, folder / "a.txt", "txt"), "three\rfour\rfive");
 
     // An empty line after the first text stays; a last line without a break counts.
     WriteAll(folder / "b.txt", "one\r\n\r\nthree");
-    EXPECT_EQ(FileContentSummary(folder / "b.txt", "TXT"), "one\r\rthree");
+    EXPECT_EQ(FileContentSummary(env.common, folder / "b.txt", "TXT"), "one\r\rthree");
 
     WriteAll(folder / "empty.txt", "");
-    EXPECT_EQ(FileContentSummary(folder / "empty.txt", "txt"), "");
+    EXPECT_EQ(FileContentSummary(env.common, folder / "empty.txt", "txt"), "");
 }
 
 TEST(FileContentSummary, OtherCategoriesAndFailures) {
-    TempFolder folder;
+    TestEnvironment env;
+    const auto& folder = env.folder;
     WriteAll(folder / "a.gif", "GIF89a");
-    EXPECT_EQ(FileContentSummary(folder / "a.gif", "image"), "");
-    EXPECT_EQ(FileContentSummary(folder / "a.gif", ""), "");
+    EXPECT_EQ(FileContentSummary(env.common, folder / "a.gif", "image"), "");
+    EXPECT_EQ(FileContentSummary(env.common, folder / "a.gif", ""), "");
     // A category without a reader never touches the file.
-    EXPECT_EQ(FileContentSummary(folder / "gone.zip", "compressed"), "");
+    EXPECT_EQ(FileContentSummary(env.common, folder / "gone.zip", "compressed"), "");
 
     const auto gone = folder / "gone.txt";
-    EXPECT_EQ(FileContentSummary(gone, "Txt"),
+    EXPECT_EQ(FileContentSummary(env.common, gone, "Txt"),
               "Error while retrieving ZVX-Content information for: " + gone.string() + " (txt)");
+}
+
+TEST(FileContentSummary, TheTagOfAnMp3File) {
+    TestEnvironment env;
+    WriteAll(env.folder / "a.mp3", TaggedFile("Song", "  ", 17));
+    EXPECT_EQ(FileContentSummary(env.common, env.folder / "a.mp3", "MP3"),
+              "Tagged: yes\rTrack: Song\rArtist: <not set>\rAlbum: <not set>\rGenre: "
+              "Rock\rComment: <not set>");
+    EXPECT_EQ(env.common.id3.TagProducer, "<not set>");
+
+    // Genre 0 is "Blues" on an entry but "<unknown>" here.
+    WriteAll(env.folder / "b.mp3", TaggedFile("Song", "Band", 0));
+    EXPECT_NE(
+        FileContentSummary(env.common, env.folder / "b.mp3", "mp3").find("\rGenre: <unknown>\r"),
+        std::string::npos);
+
+    WriteAll(env.folder / "c.mp3", std::string(128, 'x'));
+    EXPECT_EQ(FileContentSummary(env.common, env.folder / "c.mp3", "mp3"),
+              "Tagged: no\r<Other track information is unknown>");
 }
 
 }  // namespace

@@ -7,10 +7,10 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 9> AllCommands() {
-    return {&NewCommand(),   &InfoCommand(),    &SettingsCommand(),
-            &LsCommand(),    &FoldersCommand(), &MkdirCommand(),
-            &RmdirCommand(), &MvdirCommand(),   &RenameCommand()};
+std::array<const Command*, 10> AllCommands() {
+    return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(), &LsCommand(),
+            &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),    &MvdirCommand(),
+            &RenameCommand(),  &TagsCommand()};
 }
 
 }  // namespace

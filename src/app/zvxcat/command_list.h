@@ -17,6 +17,7 @@ const Command& MkdirCommand();
 const Command& RmdirCommand();
 const Command& MvdirCommand();
 const Command& RenameCommand();
+const Command& TagsCommand();
 
 // The command of that name, or nullptr.
 const Command* FindCommand(std::string_view name);

@@ -1,0 +1,37 @@
+#include "platform/file_facts.h"
+
+#include <sys/stat.h>
+
+#include <cstdio>
+#include <ctime>
+
+#include "platform/file_error.h"
+
+namespace zvx {
+
+namespace {
+
+struct stat StatOf(const std::filesystem::path& path) {
+    struct stat info;
+    if (::stat(path.c_str(), &info) != 0)
+        ThrowFileError("Cannot read the attributes of", path);
+    return info;
+}
+
+}  // namespace
+
+bool IsReadOnlyFile(const std::filesystem::path& path) {
+    return (StatOf(path).st_mode & S_IWUSR) == 0;
+}
+
+std::string FileDateText(const std::filesystem::path& path) {
+    std::time_t changed = StatOf(path).st_mtime;
+    std::tm local{};
+    localtime_r(&changed, &local);
+    char text[32];
+    std::snprintf(text, sizeof text, "%02d-%02d-%04d", local.tm_mon + 1, local.tm_mday,
+                  local.tm_year + 1900);
+    return text;
+}
+
+}  // namespace zvx

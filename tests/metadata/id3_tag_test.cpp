@@ -1,0 +1,126 @@
+#include "metadata/id3_tag.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/temp_folder.h"
+
+namespace zvx {
+namespace {
+
+using test::TestEnvironment;
+using test::WriteAll;
+
+struct Tag {
+    std::string head = "TAG";
+    std::string title, artist, album, year, comment;
+    unsigned char track = 0;
+    unsigned char genre = 0;
+};
+
+std::string Field(std::string text, size_t width) {
+    text.resize(width, '\0');
+    return text;
+}
+
+std::string Block(const Tag& tag) {
+    return tag.head + Field(tag.title, 30) + Field(tag.artist, 30) + Field(tag.album, 30) +
+           Field(tag.year, 4) + Field(tag.comment, 29) + static_cast<char>(tag.track) +
+           static_cast<char>(tag.genre);
+}
+
+// Reads a file of one byte of sound and the tag.
+TagValues Read(TestEnvironment& env, const Tag& tag) {
+    WriteAll(env.folder / "a.mp3", "x" + Block(tag));
+    ReadID3Tag(env.common, env.folder / "a.mp3");
+    return env.common.id3;
+}
+
+TEST(ReadID3Tag, OnlyAFileLongerThanTheBlockIsReadAndTheMarkerInAnyCase) {
+    TestEnvironment env;
+    Tag tag;
+    tag.head = "tAg";
+    tag.title = "Song";
+    env.common.id3.HasID3Tag = true;
+    WriteAll(env.folder / "tag.mp3", Block(tag));
+    ReadID3Tag(env.common, env.folder / "tag.mp3");
+    EXPECT_FALSE(env.common.id3.HasID3Tag);
+    EXPECT_EQ(env.common.id3.TagTitle, "");
+
+    const TagValues read = Read(env, tag);
+    EXPECT_TRUE(read.HasID3Tag);
+    EXPECT_EQ(read.TagTitle, std::string("Song") + std::string(26, '\0'));
+}
+
+TEST(ReadID3Tag, TextsAreTrimmedOfBlanksOnlyAndConvertedFromLatin1) {
+    TestEnvironment env;
+    Tag tag;
+    tag.title = Field("  Song", 30);
+    tag.artist = "  The Band" + std::string(20, ' ');
+    tag.album = "Caf\xE9 \xFF" + std::string(24, ' ');
+    tag.comment = std::string(28, 'c') + "C";
+    const TagValues read = Read(env, tag);
+    EXPECT_EQ(read.TagTitle, "Song" + std::string(24, '\0'));
+    EXPECT_EQ(read.TagArtist, "The Band");
+    EXPECT_EQ(read.TagAlbum, "Caf\xC3\xA9 \xC3\xBF");
+    // All 29 comment bytes; byte 126 is the track, never the comment.
+    EXPECT_EQ(read.TagComment, std::string(28, 'c') + "C");
+}
+
+TEST(ReadID3Tag, TrackGenreAndYearRules) {
+    TestEnvironment env;
+    Tag tag;
+    for (auto [byte, track] : {std::pair{1, 1}, {30, 30}, {31, 0}, {0, 0}}) {
+        tag.track = static_cast<unsigned char>(byte);
+        EXPECT_EQ(Read(env, tag).TagTrack, track) << byte;
+    }
+    for (auto [byte, genre] : {std::pair{0, "0"}, {115, "115"}, {116, "<unknown>"}}) {
+        tag.genre = static_cast<unsigned char>(byte);
+        EXPECT_EQ(Read(env, tag).TagGenre, genre) << byte;
+    }
+    // A year of two characters takes a century, "-5" too ("20-5" reads as 20); beyond a
+    // 16-bit Integer the year is 0.
+    for (auto [text, year] : {std::pair{"99", 1999},
+                              {"  99", 1999},
+                              {"20", 2020},
+                              {"21", 1921},
+                              {"05", 5},
+                              {"abcd", 0},
+                              {"3.5", 4},
+                              {"-5", 20},
+                              {"1e4", 10000},
+                              {"9e99", 0}}) {
+        tag.year = text;
+        EXPECT_EQ(Read(env, tag).TagYear, year) << text;
+    }
+}
+
+TEST(ReadID3Tag, AFileWithoutATagKeepsTheLastFilesHasID3Tag) {
+    TestEnvironment env;
+    Tag tag;
+    tag.title = "Song";
+    tag.year = "1999";
+    tag.track = 3;
+    tag.genre = 7;
+    Read(env, tag);
+    env.common.id3.TagProducer = "Producer";
+
+    tag.head = "TAQ";
+    const TagValues read = Read(env, tag);
+    EXPECT_TRUE(read.HasID3Tag);
+    EXPECT_EQ(read.TagTitle, "");
+    EXPECT_EQ(read.TagProducer, "");
+    EXPECT_EQ(read.TagGenre, "");
+    EXPECT_EQ(read.TagYear, 0);
+    EXPECT_EQ(read.TagTrack, 0);
+
+    // A file that cannot be read is silent and counts as one without a tag.
+    env.common.id3.TagTitle = "stale";
+    ReadID3Tag(env.common, env.folder / "gone.mp3");
+    EXPECT_TRUE(env.common.id3.HasID3Tag);
+    EXPECT_EQ(env.common.id3.TagTitle, "");
+}
+
+}  // namespace
+}  // namespace zvx
