@@ -7,10 +7,10 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 10> AllCommands() {
+std::array<const Command*, 11> AllCommands() {
     return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(), &LsCommand(),
             &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),    &MvdirCommand(),
-            &RenameCommand(),  &TagsCommand()};
+            &RenameCommand(),  &TagsCommand(),  &ScanCommand()};
 }
 
 }  // namespace

@@ -18,6 +18,7 @@ const Command& RmdirCommand();
 const Command& MvdirCommand();
 const Command& RenameCommand();
 const Command& TagsCommand();
+const Command& ScanCommand();
 
 // The command of that name, or nullptr.
 const Command* FindCommand(std::string_view name);
