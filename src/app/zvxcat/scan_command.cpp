@@ -1,9 +1,9 @@
-#include <algorithm>
 #include <string>
 
 #include "command_list.h"
 #include "metadata/scan_file_name.h"
 #include "metadata/scan_scheme.h"
+#include "platform/catalogue_path.h"
 #include "shell/common.h"
 #include "store/load_settings.h"
 
@@ -15,9 +15,7 @@ namespace {
 std::string CataloguePathArgument(const std::string& text) {
     if (text.find('\\') != std::string::npos)
         return text;
-    std::string path = NativePathArgument(text).string();
-    std::replace(path.begin(), path.end(), '/', '\\');
-    return path;
+    return CataloguePathFromNative(NativePathArgument(text).string());
 }
 
 void CheckScan(const Arguments& arguments) {
