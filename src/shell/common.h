@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,8 @@
 #include "shell/screen.h"
 
 namespace zvx {
+
+class DuplicateIndex;
 
 // The version of the extension interface that extensions' requirements are compared with.
 inline constexpr int kExtensionInterfaceVersion = 110;
@@ -49,6 +52,8 @@ class Common {
 
     // The last answer of the duplicate dialog within one run, or empty.
     std::string DuplicateChoice;
+    // The duplicate index of the add run in progress (BeginAddRun), or none.
+    std::shared_ptr<DuplicateIndex> duplicateIndex;
     // Set when the user aborts an add run.
     bool AbortAdding = false;
     // What the readers of the last media file found.

@@ -6,6 +6,7 @@
 #include "platform/file_io.h"
 #include "shell/common.h"
 #include "store/duplicate_check.h"
+#include "store/duplicate_index.h"
 
 namespace zvx {
 
@@ -20,6 +21,18 @@ void ApplyCaseModeToTexts(EntryValues& v, int mode) {
     }
 }
 
+// Writes the line with CR LF at the end of the file, and tells an add run's index where.
+void AppendLine(Common& common, const std::filesystem::path& target, std::string_view line) {
+    DuplicateIndex* index = common.duplicateIndex.get();
+    const bool indexed = index && index->tracks(target);
+    const uint64_t offset = indexed ? FileLength(target) : 0;
+    AppendWriter writer(target);
+    writer.writeLine(line);
+    writer.close();
+    if (indexed)
+        index->appended(offset, line);
+}
+
 }  // namespace
 
 bool AppendEntry(Common& common, const std::filesystem::path& target, std::string_view folderId,
@@ -31,9 +44,7 @@ bool AppendEntry(Common& common, const std::filesystem::path& target, std::strin
     common.SetActiveDocumentChanged();
     if (checkDuplicates && !CheckDuplicate(common, target, line))
         return false;
-    AppendWriter writer(target);
-    writer.writeLine(line);
-    writer.close();
+    AppendLine(common, target, line);
     return true;
 }
 

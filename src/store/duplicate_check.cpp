@@ -6,6 +6,7 @@
 #include "platform/line_reader.h"
 #include "shell/common.h"
 #include "store/catalogue_format.h"
+#include "store/duplicate_index.h"
 #include "store/entry_line.h"
 #include "store/entry_offset.h"
 
@@ -17,8 +18,69 @@ bool SameEntry(const EntryFields& a, const EntryFields& b) {
     return a[1] == b[1] && a[3] == b[3] && a[4] == b[4];
 }
 
-// Copies the file without the `lineNumber`th line behind its TOC, through tempfil2.tmp.
-void StrikeOut(const Common& common, const std::filesystem::path& file, uint64_t lineNumber) {
+bool IsDuplicate(std::string_view line, std::string_view newLine, const EntryFields& added) {
+    return line.substr(0, kFolderIdLength) == newLine.substr(0, kFolderIdLength) &&
+           SameEntry(SplitEntryLine(line), added);
+}
+
+bool AskOverwrite(Common& common, const EntryFields& old, const EntryFields& added) {
+    if (common.DuplicateChoice != kKeepAll && common.DuplicateChoice != kDelAll) {
+        DuplicateQuestion q{std::string(old[1]),   std::string(old[2]),   std::string(old[7]),
+                            std::string(added[1]), std::string(added[2]), std::string(added[7])};
+        common.DuplicateChoice = common.screen().doubledetect(q);
+    }
+    return common.DuplicateChoice == kDelOld || common.DuplicateChoice == kDelAll;
+}
+
+// One scan of the entry section, counting lines from the entry offset.
+bool CheckByScan(Common& common, const std::filesystem::path& file, std::string_view newLine,
+                 bool isDecheck) {
+    const EntryFields added = SplitEntryLine(newLine);
+    const uint64_t offset = ReadEntryOffset(file);
+    bool result = true;
+    uint64_t hit = 0;
+    {
+        LineReader reader(file, offset > 0 ? offset - 1 : 0);
+        std::string_view line;
+        for (uint64_t number = 1; reader.next(line); ++number) {
+            if (!IsDuplicate(line, newLine, added))
+                continue;
+            if (isDecheck || AskOverwrite(common, SplitEntryLine(line), added)) {
+                hit = number;
+                break;
+            }
+            result = false;
+        }
+    }
+    if (hit > 0)
+        StrikeOutLines(common, file, [hit](uint64_t number) { return number == hit; });
+    return result;
+}
+
+// The same hits in the same order as the scan, found through the run's index.
+bool CheckByIndex(Common& common, DuplicateIndex& index, std::string_view newLine) {
+    const EntryFields added = SplitEntryLine(newLine);
+    bool result = true;
+    for (size_t candidate : index.candidates(newLine)) {
+        const std::string line = index.lineAt(candidate);
+        if (!IsDuplicate(line, newLine, added))
+            continue;  // another key of the same hash
+        if (AskOverwrite(common, SplitEntryLine(line), added)) {
+            index.strike(candidate);
+            break;  // the result stays false if an earlier hit was kept
+        }
+        result = false;
+        // Under "Keep all" every further hit is kept without a question.
+        if (common.DuplicateChoice == kKeepAll)
+            break;
+    }
+    return result;
+}
+
+}  // namespace
+
+void StrikeOutLines(const Common& common, const std::filesystem::path& file,
+                    const std::function<bool(uint64_t number)>& struck) {
     std::filesystem::path scratch = common.workFile(kTempFile2);
     std::string header = ReadFileBytes(file, 0, kHeaderSize);
     header.resize(kHeaderSize, '\0');
@@ -34,7 +96,7 @@ void StrikeOut(const Common& common, const std::filesystem::path& file, uint64_t
                 break;
         }
         for (uint64_t number = 1; reader.next(line); ++number) {
-            if (number != lineNumber)
+            if (!struck(number))
                 writer.writeLine(line);
         }
         writer.close();
@@ -42,42 +104,12 @@ void StrikeOut(const Common& common, const std::filesystem::path& file, uint64_t
     ReplaceFile(scratch, file);
 }
 
-bool AskOverwrite(Common& common, const EntryFields& old, const EntryFields& added) {
-    if (common.DuplicateChoice != kKeepAll && common.DuplicateChoice != kDelAll) {
-        DuplicateQuestion q{std::string(old[1]),   std::string(old[2]),   std::string(old[7]),
-                            std::string(added[1]), std::string(added[2]), std::string(added[7])};
-        common.DuplicateChoice = common.screen().doubledetect(q);
-    }
-    return common.DuplicateChoice == kDelOld || common.DuplicateChoice == kDelAll;
-}
-
-}  // namespace
-
 bool CheckDuplicate(Common& common, const std::filesystem::path& file, std::string_view newLine) {
     const bool isDecheck = file == common.workFile(kDecheckFile);
-    const std::string_view newId = newLine.substr(0, kFolderIdLength);
-    const EntryFields added = SplitEntryLine(newLine);
-    const uint64_t offset = ReadEntryOffset(file);
-    bool result = true;
-    uint64_t hit = 0;
-    {
-        LineReader reader(file, offset > 0 ? offset - 1 : 0);
-        std::string_view line;
-        for (uint64_t number = 1; reader.next(line); ++number) {
-            if (line.substr(0, kFolderIdLength) != newId)
-                continue;
-            if (!SameEntry(SplitEntryLine(line), added))
-                continue;
-            if (isDecheck || AskOverwrite(common, SplitEntryLine(line), added)) {
-                hit = number;
-                break;
-            }
-            result = false;
-        }
-    }
-    if (hit > 0)
-        StrikeOut(common, file, hit);
-    return result;
+    DuplicateIndex* index = common.duplicateIndex.get();
+    if (!isDecheck && index && index->answersFor(file))
+        return CheckByIndex(common, *index, newLine);
+    return CheckByScan(common, file, newLine, isDecheck);
 }
 
 }  // namespace zvx

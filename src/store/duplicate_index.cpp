@@ -1,0 +1,184 @@
+#include "store/duplicate_index.h"
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+#include "platform/file_io.h"
+#include "platform/line_reader.h"
+#include "shell/common.h"
+#include "store/catalogue_format.h"
+#include "store/duplicate_check.h"
+#include "store/entry_line.h"
+#include "store/entry_offset.h"
+
+namespace zvx {
+
+namespace {
+
+// Most entry lines are shorter, so one read brings a line back.
+constexpr size_t kReadBackChunk = 512;
+// For reserving the hash table once instead of growing it step by step.
+constexpr uint64_t kTypicalLineLength = 150;
+
+uint64_t Combine(uint64_t hash, std::string_view text) {
+    const uint64_t value = std::hash<std::string_view>{}(text);
+    return hash ^ (value + 0x9e3779b97f4a7c15ULL + (hash << 12) + (hash >> 4));
+}
+
+// Reads the TOC through its closing empty line. False when there is none, or when one of
+// its lines ends in a bare LF: striking a line out writes every line with CR LF and keeps
+// the entry offset, so such a TOC would grow, and the checks after the strike would read
+// from inside it.
+bool SkipTocEndedByCrLf(LineReader& reader) {
+    std::string_view line;
+    uint64_t start = reader.position();
+    while (reader.next(line)) {
+        if (reader.position() != start + line.size() + 2)
+            return false;
+        if (line.empty())
+            return true;
+        start = reader.position();
+    }
+    return false;
+}
+
+}  // namespace
+
+uint64_t HashDuplicateKey(std::string_view line) {
+    const EntryFields fields = SplitEntryLine(line);
+    uint64_t hash = 0;
+    for (int field : {0, 1, 3, 4})
+        hash = Combine(hash, fields[field]);
+    return hash;
+}
+
+DuplicateIndex::DuplicateIndex(std::filesystem::path catalogue, KeyHash hash)
+    : catalogue_(std::move(catalogue)), hash_(hash) {}
+
+bool DuplicateIndex::answersFor(const std::filesystem::path& file) {
+    if (file != catalogue_)
+        return false;
+    if (!built_)
+        build();
+    return usable_;
+}
+
+bool DuplicateIndex::tracks(const std::filesystem::path& file) const {
+    return built_ && usable_ && file == catalogue_;
+}
+
+// The check counts lines from the entry offset, the strike-out from the TOC's end, so the
+// two must be the same place for the numbers to agree.
+void DuplicateIndex::build() {
+    lines_.clear();
+    newest_.clear();
+    const uint64_t entryOffset = ReadEntryOffset(catalogue_);
+    LineReader reader(catalogue_, kTocStart);
+    usable_ =
+        SkipTocEndedByCrLf(reader) && reader.position() + 1 == entryOffset && scanEntries(reader);
+    if (!usable_) {
+        lines_ = {};
+        newest_ = {};
+    }
+    built_ = true;
+}
+
+// False when the last line has no line end: the next append would continue it.
+bool DuplicateIndex::scanEntries(LineReader& reader) {
+    std::string_view line;
+    uint64_t start = reader.position();
+    newest_.reserve((FileLength(catalogue_) - start) / kTypicalLineLength);
+    bool open = false;
+    while (reader.next(line)) {
+        add(start, line);
+        open = reader.position() == start + line.size();
+        start = reader.position();
+    }
+    return !open;
+}
+
+void DuplicateIndex::add(uint64_t offset, std::string_view line) {
+    auto [newest, isFirst] = newest_.try_emplace(hash_(line), lines_.size());
+    const size_t older = isFirst ? kNone : std::exchange(newest->second, lines_.size());
+    lines_.push_back({offset, older, false});
+}
+
+std::vector<size_t> DuplicateIndex::candidates(std::string_view newLine) const {
+    std::vector<size_t> numbers;
+    auto newest = newest_.find(hash_(newLine));
+    if (newest == newest_.end())
+        return numbers;
+    for (size_t number = newest->second; number != kNone; number = lines_[number].older) {
+        if (!lines_[number].struck)
+            numbers.push_back(number);
+    }
+    std::reverse(numbers.begin(), numbers.end());
+    return numbers;
+}
+
+std::string DuplicateIndex::lineAt(size_t number) const {
+    const uint64_t offset = lines_[number].offset;
+    for (size_t chunk = kReadBackChunk;; chunk *= 2) {
+        std::string bytes = ReadFileBytes(catalogue_, offset, chunk);
+        const size_t lf = bytes.find('\n');
+        if (lf == std::string::npos) {
+            if (bytes.size() == chunk)
+                continue;
+            return bytes;
+        }
+        bytes.resize(lf > 0 && bytes[lf - 1] == '\r' ? lf - 1 : lf);
+        return bytes;
+    }
+}
+
+void DuplicateIndex::strike(size_t number) {
+    lines_[number].struck = true;
+    ++struckCount_;
+}
+
+void DuplicateIndex::appended(uint64_t offset, std::string_view line) {
+    add(offset, line);
+}
+
+void DuplicateIndex::finish(const Common& common) {
+    if (struckCount_ == 0)
+        return;
+    StrikeOutLines(common, catalogue_, [this](uint64_t number) {
+        return number >= 1 && number <= lines_.size() && lines_[number - 1].struck;
+    });
+}
+
+bool BeginAddRun(Common& common, const std::filesystem::path& cfn) {
+    if (common.duplicateIndex)
+        return false;
+    common.duplicateIndex = std::make_shared<DuplicateIndex>(cfn);
+    return true;
+}
+
+void EndAddRun(Common& common) {
+    std::shared_ptr<DuplicateIndex> index = std::exchange(common.duplicateIndex, nullptr);
+    if (index)
+        index->finish(common);
+}
+
+AddRunScope::AddRunScope(Common& common, const std::filesystem::path& cfn)
+    : common_(common), began_(BeginAddRun(common, cfn)) {}
+
+AddRunScope::~AddRunScope() {
+    if (!began_)
+        return;
+    try {
+        EndAddRun(common_);
+    } catch (...) {
+        // A destructor cannot report; the catalogue keeps the old lines beside the new.
+    }
+}
+
+void AddRunScope::end() {
+    if (!std::exchange(began_, false))
+        return;
+    EndAddRun(common_);
+}
+
+}  // namespace zvx

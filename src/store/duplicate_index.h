@@ -1,0 +1,101 @@
+#pragma once
+// The duplicate index of an add run: which entry lines of one catalogue share a duplicate
+// key (folder ID, name, path and medium ID), so that the duplicate check of a big run
+// costs the same for every file, whatever the size of the catalogue.
+//
+// While a run is active, its catalogue (under the very path the run was begun with) is
+// changed only by AppendEntry and the duplicate check. A line the check strikes out
+// stays in the file until the run ends, and then all struck lines go in one rewrite. A
+// run interrupted before that leaves the old lines beside the new ones: nothing is lost.
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace zvx {
+
+class Common;
+class LineReader;
+
+// A hash of the duplicate key of an entry line: the same for any two duplicates.
+uint64_t HashDuplicateKey(std::string_view line);
+
+class DuplicateIndex {
+  public:
+    using KeyHash = uint64_t (*)(std::string_view line);
+
+    // Nothing is read before the first check. Tests pass a hash of their own.
+    explicit DuplicateIndex(std::filesystem::path catalogue, KeyHash hash = HashDuplicateKey);
+
+    // Whether the index answers the duplicate check for `file`: only for its catalogue,
+    // and only if striking lines out at the end leaves the same file as striking each at
+    // once would (see the build). The first call for the catalogue builds the index by
+    // one scan of the file.
+    bool answersFor(const std::filesystem::path& file);
+    // Whether lines appended to `file` are to be recorded: its catalogue, indexed.
+    bool tracks(const std::filesystem::path& file) const;
+
+    // The lines not struck out whose key hashes like the new line's, by their 0-based
+    // number among the entry lines, in file order. Equal hashes are no proof of a
+    // duplicate: the caller compares the lines.
+    std::vector<size_t> candidates(std::string_view newLine) const;
+    // The line by its number, read back from the catalogue.
+    std::string lineAt(size_t number) const;
+    // The line no longer hits, and leaves the catalogue when the run ends.
+    void strike(size_t number);
+    // Records a line appended at the 0-based byte `offset`.
+    void appended(uint64_t offset, std::string_view line);
+
+    // Removes the struck lines in one rewrite through tempfil2.tmp.
+    void finish(const Common& common);
+
+  private:
+    struct Line {
+        uint64_t offset;
+        size_t older;  // the previous line with the same hash, or kNone
+        bool struck;
+    };
+    static constexpr size_t kNone = SIZE_MAX;
+
+    void build();
+    bool scanEntries(LineReader& reader);
+    void add(uint64_t offset, std::string_view line);
+
+    std::filesystem::path catalogue_;
+    KeyHash hash_;
+    bool built_ = false;
+    bool usable_ = false;
+    size_t struckCount_ = 0;
+    std::vector<Line> lines_;
+    std::unordered_map<uint64_t, size_t> newest_;  // hash -> its last line
+};
+
+// Begins an add run on the working copy `cfn` unless a run is active already; whether it
+// began one. Clearing DuplicateChoice stays the caller's part.
+bool BeginAddRun(Common& common, const std::filesystem::path& cfn);
+// Ends the active run, if any: the struck lines leave its catalogue. Must come before
+// any other rewrite of the catalogue, such as the wizard's TOC merge. Throws FileError.
+void EndAddRun(Common& common);
+
+// An add run for the life of a scope. A scope that finds a run active leaves it alone.
+class AddRunScope {
+  public:
+    AddRunScope(Common& common, const std::filesystem::path& cfn);
+    // Ends the run if end() was not called; a failing rewrite is dropped then, which
+    // leaves the old lines in the catalogue.
+    ~AddRunScope();
+    AddRunScope(const AddRunScope&) = delete;
+    AddRunScope& operator=(const AddRunScope&) = delete;
+
+    // Ends the run this scope began. Throws FileError.
+    void end();
+
+  private:
+    Common& common_;
+    bool began_;
+};
+
+}  // namespace zvx
