@@ -100,8 +100,9 @@ std::vector<std::string> SubDirectoryNames(const std::filesystem::path& dir, dev
 std::vector<std::string> FileNamesMatching(const std::filesystem::path& dir,
                                            std::string_view pattern) {
     std::vector<std::string> names;
+    const FilePattern matcher(pattern);
     ForEachEntry(dir, [&](int dirFd, const dirent& entry) {
-        if (IsRegularOrLinkToOne(dirFd, entry) && MatchesFilePattern(entry.d_name, pattern))
+        if (IsRegularOrLinkToOne(dirFd, entry) && matcher.matches(entry.d_name))
             names.emplace_back(entry.d_name);
     });
     SortByBytes(names);

@@ -1,7 +1,6 @@
 #include "shell/file_pattern.h"
 
-#include <string>
-#include <vector>
+#include <algorithm>
 
 #include "shell/field_text.h"
 #include "shell/text_case.h"
@@ -10,14 +9,25 @@ namespace zvx {
 
 namespace {
 
-// Glob match over characters, by the usual two-pointer walk with one backtrack point.
-bool MatchOne(const std::vector<std::string>& name, const std::vector<std::string>& pattern) {
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+char AsciiUpper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+// Glob match by the usual two-pointer walk with one backtrack point. `same(n, p)` tells
+// whether name character n matches pattern character p.
+template <class Same>
+bool Glob(size_t nameSize, size_t patternSize, auto isStar, auto isAny, Same same) {
     size_t n = 0, p = 0, starP = std::string::npos, starN = 0;
-    while (n < name.size()) {
-        if (p < pattern.size() && pattern[p] == "*") {
+    while (n < nameSize) {
+        if (p < patternSize && isStar(p)) {
             starP = p++;
             starN = n;
-        } else if (p < pattern.size() && (pattern[p] == "?" || pattern[p] == name[n])) {
+        } else if (p < patternSize && (isAny(p) || same(n, p))) {
             ++p;
             ++n;
         } else if (starP != std::string::npos) {
@@ -27,9 +37,9 @@ bool MatchOne(const std::vector<std::string>& name, const std::vector<std::strin
             return false;
         }
     }
-    while (p < pattern.size() && pattern[p] == "*")
+    while (p < patternSize && isStar(p))
         ++p;
-    return p == pattern.size();
+    return p == patternSize;
 }
 
 std::vector<std::string> UpperCharacters(std::string_view text) {
@@ -42,8 +52,7 @@ std::vector<std::string> UpperCharacters(std::string_view text) {
 
 }  // namespace
 
-bool MatchesFilePattern(std::string_view name, std::string_view patterns) {
-    std::vector<std::string> upperName = UpperCharacters(name);
+FilePattern::FilePattern(std::string_view patterns) {
     size_t start = 0;
     while (start <= patterns.size()) {
         size_t end = patterns.find(';', start);
@@ -51,12 +60,47 @@ bool MatchesFilePattern(std::string_view name, std::string_view patterns) {
             end = patterns.size();
         std::string_view pattern = Trim(patterns.substr(start, end - start));
         if (pattern == "*.*" || pattern == "*")
-            return true;
-        if (!pattern.empty() && MatchOne(upperName, UpperCharacters(pattern)))
-            return true;
+            all_ = true;
+        if (!pattern.empty()) {
+            One one{UpperCharacters(pattern), {}, IsAscii(pattern)};
+            if (one.ascii)
+                std::transform(pattern.begin(), pattern.end(), std::back_inserter(one.asciiUpper),
+                               AsciiUpper);
+            patterns_.push_back(std::move(one));
+        }
         start = end + 1;
     }
+}
+
+bool FilePattern::matches(std::string_view name) const {
+    if (all_)
+        return true;
+    const bool asciiName = IsAscii(name);
+    std::vector<std::string> upperName;
+    for (const One& one : patterns_) {
+        if (asciiName && one.ascii) {
+            const std::string& p = one.asciiUpper;
+            if (Glob(
+                    name.size(), p.size(), [&](size_t i) { return p[i] == '*'; },
+                    [&](size_t i) { return p[i] == '?'; },
+                    [&](size_t n, size_t i) { return AsciiUpper(name[n]) == p[i]; }))
+                return true;
+            continue;
+        }
+        if (upperName.empty())
+            upperName = UpperCharacters(name);
+        const std::vector<std::string>& p = one.characters;
+        if (Glob(
+                upperName.size(), p.size(), [&](size_t i) { return p[i] == "*"; },
+                [&](size_t i) { return p[i] == "?"; },
+                [&](size_t n, size_t i) { return upperName[n] == p[i]; }))
+            return true;
+    }
     return false;
+}
+
+bool MatchesFilePattern(std::string_view name, std::string_view patterns) {
+    return FilePattern(patterns).matches(name);
 }
 
 }  // namespace zvx
