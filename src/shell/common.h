@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/volume_label.h"
 #include "shell/loaded_settings.h"
 #include "shell/media_values.h"
 #include "shell/screen.h"
@@ -60,6 +61,8 @@ class Common {
     TagValues id3;
     StreamValues stream;
     ScanValues scan;
+    // The volume labels read in the current add run; each run begins with a clear().
+    VolumeLabels volumeLabels;
     // The counter of NextFolderID, set by ScanHighestFolderID.
     long long folderIdCounter = 0;
     // Set by a new sub-folder: the next rebuild of a tree with nodes expands the node it
