@@ -137,6 +137,11 @@ int frmDocument::selectedFolder() const {
     return NodeOfItem(List2_->currentItem());
 }
 
+const FolderNode* frmDocument::selectedNode() const {
+    const int node = selectedFolder();
+    return node >= 0 && node < tree_.size() ? &tree_.nodes[static_cast<size_t>(node)] : nullptr;
+}
+
 // A node click: the folder line and the listing.
 void frmDocument::folderSelected() {
     showCaption();

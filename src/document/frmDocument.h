@@ -76,7 +76,12 @@ class frmDocument : public QWidget, public DocumentView {
     void saveColumnSetting(const std::string& name);
 
     int selectedFolder() const;
+    // The selected folder's node, or none.
+    const FolderNode* selectedNode() const;
+    bool hasFolders() const { return !tree_.empty(); }
     EntryListModel* entries() const { return model_; }
+    // The working copy, cfn.
+    std::filesystem::path cfn() const;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -90,7 +95,6 @@ class frmDocument : public QWidget, public DocumentView {
     void sortBy(int column);
     void applySort();
     void summarize();
-    std::filesystem::path cfn() const;
 
     Common& common_;
     QSplitter* splitter_;

@@ -22,6 +22,8 @@ constexpr std::array kCommandNames{
     CommandName{"mnufile3", "document_saveas", Command::DocumentSaveAs},
     CommandName{"mnufile4", "document_close", Command::DocumentClose},
     CommandName{"mnufile6", "zvx_quit", Command::Quit},
+    CommandName{"addmnu0", "entry_add_wizard", Command::EntryAddWizard},
+    CommandName{"addmnu2", "entry_add_manually", Command::EntryAddManually},
     CommandName{"pathmnu0", "folder_create", Command::FolderCreate},
     CommandName{"pathmnu1", "folder_properties", Command::FolderProperties},
     CommandName{"pathmnu3", "folder_move", Command::FolderMove},

@@ -25,6 +25,8 @@ enum class Command {
     DocumentSaveAs,
     DocumentClose,
     Quit,
+    EntryAddWizard,
+    EntryAddManually,
     FolderCreate,
     FolderProperties,
     FolderMove,

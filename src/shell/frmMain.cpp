@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "adding/cdwizard.h"
+#include "adding/insertlist.h"
 #include "document/frmDocument.h"
 #include "document/list_appearance.h"
 #include "shell/cleanup_window.h"
@@ -143,6 +145,16 @@ void frmMain::documentCommand(Command command) {
     if (!document)
         return;
     switch (command) {
+        case Command::EntryAddWizard: {
+            cdwizard wizard(common_, *document, MountedDrives(), this);
+            wizard.exec();
+            break;
+        }
+        case Command::EntryAddManually: {
+            insertlist form(common_, *document, this);
+            form.start();
+            break;
+        }
         case Command::FolderCreate:
             document->crefolder_Click();
             break;

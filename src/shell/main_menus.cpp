@@ -65,8 +65,15 @@ void frmMain::buildMenus() {
     columnMenu_->setObjectName("chsetTOP");
     addEntry(view, "reportstylemnu0", "&Save Column Setting...");
 
+    QMenu* entries = menuBar()->addMenu("&Entry");
+    entries->menuAction()->setObjectName("foldermnuTOP");
+    QMenu* add = entries->addMenu("&Add");
+    add->setObjectName("addmnu");
+    addEntry(add, "addmnu0", "&Wizard...", "drive-harddisk");
+    addEntry(add, "addmnu2", "&Manually...", "list-add");
+
     QMenu* folders = menuBar()->addMenu("F&older");
-    folders->setObjectName("pathmnuTOP");
+    folders->menuAction()->setObjectName("pathmnuTOP");
     addEntry(folders, "pathmnu0", "&New Folder...", "folder-new");
     addEntry(folders, "pathmnu1", "&Properties...", "document-properties");
     addEntry(folders, "pathmnu3", "&Move...");

@@ -99,7 +99,7 @@ void frmMain::RealSelectionizer(const SelectionState& state, bool keepFolderItem
 
 void frmMain::updateDocumentState() {
     if (!activeView()) {
-        for (const char* key : {"mnufile2", "mnufile3", "mnufile4"})
+        for (const char* key : {"foldermnuTOP", "pathmnuTOP", "mnufile2", "mnufile3", "mnufile4"})
             if (QAction* entry = menuEntry(key))
                 entry->setEnabled(false);
         RealSelectionizer(kNoDocumentState, false);

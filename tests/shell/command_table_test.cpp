@@ -15,6 +15,8 @@ TEST(ResolveCommand, MenuKeyAndOtherNameSelectTheSameCommand) {
     EXPECT_EQ(ResolveCommand("zvx_windows_cascase").command, Command::WindowsCascade);
     EXPECT_EQ(ResolveCommand("zvx_windows_cascade").command, Command::None);
     EXPECT_EQ(ResolveCommand("mnufile6").command, Command::Quit);
+    EXPECT_EQ(ResolveCommand("addmnu2").command, Command::EntryAddManually);
+    EXPECT_EQ(ResolveCommand("entry_add_wizard").command, Command::EntryAddWizard);
 }
 
 TEST(ResolveCommand, ComparesExactly) {
@@ -54,7 +56,7 @@ TEST(ResolveCommand, RecentFileTakesTheRestAsArgument) {
 
 TEST(ResolveCommand, UnknownNamesAreIgnored) {
     EXPECT_EQ(ResolveCommand("no_such_command").command, Command::None);
-    EXPECT_EQ(ResolveCommand("entry_add_wizard").command, Command::None);  // not yet built
+    EXPECT_EQ(ResolveCommand("entry_add_audiocd").command, Command::None);  // not yet built
     // A separator's tag gives the empty name, which selects nothing.
     EXPECT_EQ(ResolveCommand(CommandOfTag("xxx_")).command, Command::None);
 }
