@@ -7,10 +7,11 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 11> AllCommands() {
+std::array<const Command*, 13> AllCommands() {
     return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(), &LsCommand(),
             &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),    &MvdirCommand(),
-            &RenameCommand(),  &TagsCommand(),  &ScanCommand()};
+            &RenameCommand(),  &TagsCommand(),  &ScanCommand(),     &AddCommand(),
+            &AddTreeCommand()};
 }
 
 }  // namespace

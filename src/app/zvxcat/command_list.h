@@ -19,6 +19,8 @@ const Command& MvdirCommand();
 const Command& RenameCommand();
 const Command& TagsCommand();
 const Command& ScanCommand();
+const Command& AddCommand();
+const Command& AddTreeCommand();
 
 // The command of that name, or nullptr.
 const Command* FindCommand(std::string_view name);

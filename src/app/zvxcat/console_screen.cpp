@@ -92,6 +92,24 @@ std::string DuplicateChoiceFor(std::string_view word) {
     return "";
 }
 
+ConsoleAnswers AnswersFromArguments(const Arguments& arguments) {
+    ConsoleAnswers answers;
+    if (const std::string* word = arguments.value("--on-duplicate"); word && *word != "ask") {
+        answers.duplicate = DuplicateChoiceFor(*word);
+        if (answers.duplicate.empty())
+            throw UsageError(
+                "--on-duplicate takes ask, keep-old, keep-all, overwrite or "
+                "overwrite-all, not '" +
+                *word + "'");
+    }
+    if (const std::string* word = arguments.value("--on-error"); word && *word != "ask") {
+        if (*word != "ignore" && *word != "abort")
+            throw UsageError("--on-error takes ask, ignore or abort, not '" + *word + "'");
+        answers.fileError = *word;
+    }
+    return answers;
+}
+
 ConsoleScreen::ConsoleScreen(ConsoleAnswers answers, std::istream& in, std::ostream& err,
                              bool interactive, bool drawProgress)
     : answers_(std::move(answers)),
@@ -110,10 +128,22 @@ MsgAnswer ConsoleScreen::message(const std::string& caption, const std::string& 
     if (buttons == MsgButtons::OkOnly)
         return MsgAnswer::Ok;
     ButtonSet set = ButtonsOf(buttons);
+    if (std::optional<MsgAnswer> answer = fileErrorAnswer(buttons))
+        return *answer;
     if (std::optional<MsgAnswer> answer = askMessage(set.choices))
         return *answer;
     note("no answer given, taking \"" + NameOf(set.safe) + "\"");
     return set.safe;
+}
+
+std::optional<MsgAnswer> ConsoleScreen::fileErrorAnswer(MsgButtons buttons) const {
+    if (answers_.fileError.empty())
+        return std::nullopt;
+    if (buttons == MsgButtons::RetryCancel)
+        return MsgAnswer::Cancel;
+    if (buttons != MsgButtons::AbortRetryIgnore)
+        return std::nullopt;
+    return answers_.fileError == "ignore" ? MsgAnswer::Ignore : MsgAnswer::Abort;
 }
 
 std::string ConsoleScreen::input(const std::string& caption, const std::string& prompt,

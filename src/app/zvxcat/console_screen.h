@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "arguments.h"
 #include "shell/screen.h"
 
 namespace zvx::cat {
@@ -20,7 +21,14 @@ struct ConsoleAnswers {
     // The duplicate dialog's answer for the whole run ("keepold", "keepall", "delold",
     // "delall"), or empty to ask.
     std::string duplicate;
+    // The file error dialog's answer for the whole run ("ignore" or "abort"), or empty to
+    // ask. A dialog without Ignore takes Cancel for "ignore".
+    std::string fileError;
 };
+
+// The answers that --on-duplicate and --on-error give; "ask" leaves a question to the
+// terminal. Throws UsageError for any other word.
+ConsoleAnswers AnswersFromArguments(const Arguments& arguments);
 
 // The duplicate dialog's answer for a command-line word: "keep-old", "keep-all",
 // "overwrite", "overwrite-all" or the answer itself; empty for any other word.
@@ -49,6 +57,8 @@ class ConsoleScreen : public Screen {
     void note(const std::string& text);
     // Asks on the terminal; nullopt when not interactive or at the end of the input.
     std::optional<std::string> ask(const std::string& prompt);
+    // The configured answer of the file error dialog, if any.
+    std::optional<MsgAnswer> fileErrorAnswer(MsgButtons buttons) const;
     std::optional<MsgAnswer> askMessage(const std::vector<MsgAnswer>& choices);
     std::string askDuplicate();
     void drawProgressLine();

@@ -26,7 +26,8 @@ int RunCommand(const Command& command, const std::vector<std::string>& args) {
         return 0;
     }
     command.check(arguments);
-    ConsoleScreen screen({}, std::cin, std::cerr, isatty(STDIN_FILENO), isatty(STDERR_FILENO));
+    ConsoleScreen screen(AnswersFromArguments(arguments), std::cin, std::cerr, isatty(STDIN_FILENO),
+                         isatty(STDERR_FILENO));
     ToolSession session(screen);
     command.run(arguments, session.common(), std::cout);
     if (!std::cout.flush())
