@@ -10,6 +10,7 @@
 #include "platform/file_error.h"
 #include "platform/file_io.h"
 #include "shell/common.h"
+#include "shell/field_text.h"
 #include "shell/text_case.h"
 #include "store/duplicate_index.h"
 #include "store/folder_id.h"
@@ -75,8 +76,10 @@ void TreeWalk::LoadFolderCache() {
         cache_.emplace(LowerCase(group.path), std::move(group.id));
 }
 
+// Paths are compared as the TOC holds them: bytes that may not stand in a line are
+// blanks there, so a directory named with a line break is found again by a re-run.
 std::string TreeWalk::CachedFolderID(const std::string& tocPath) const {
-    auto found = cache_.find(LowerCase(tocPath));
+    auto found = cache_.find(LowerCase(CleanFieldText(tocPath)));
     return found == cache_.end() ? std::string() : found->second;
 }
 

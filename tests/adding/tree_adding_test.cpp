@@ -143,5 +143,21 @@ TEST(AddTree, APatternLimitsFilesButNotFolders) {
     EXPECT_EQ(total, 1u);
 }
 
+TEST(AddTree, ANameWithALineBreakIsABlankAndIsFoundAgain) {
+    TreeFixture f;
+    std::filesystem::create_directory(f.root / "odd\nname");
+    test::WriteAll(f.root / "odd\nname" / "x\r\x01y.txt", "z");
+    f.choices.realFolders = true;
+    f.run();
+    const std::string first = test::ReadAll(f.cfn);
+    std::vector<TocGroup> toc = f.toc();
+    ASSERT_EQ(toc.size(), 5u);
+    EXPECT_EQ(toc[4].path, "odd name\\");  // names sort by their bytes
+    EXPECT_EQ(f.entries()[toc[4].id], std::vector<std::string>{"x  y.txt"});
+    f.env.screen.answerDuplicate("keepall");
+    f.run();
+    EXPECT_EQ(test::ReadAll(f.cfn), first);
+}
+
 }  // namespace
 }  // namespace zvx
