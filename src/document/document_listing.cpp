@@ -16,6 +16,7 @@
 #include "platform/file_error.h"
 #include "shell/common.h"
 #include "shell/summary_text.h"
+#include "ui/main_background.h"
 
 namespace zvx {
 
@@ -49,6 +50,12 @@ void frmDocument::buildList() {
                                                  : QAbstractItemView::SelectItems);
     ListView1_->setAlternatingRowColors(look.showGrid);
     ListView1_->setMouseTracking(look.hot || look.hover);
+    if (look.showBack) {
+        QPalette palette = ListView1_->viewport()->palette();
+        palette.setBrush(QPalette::Base, MainBackground());
+        ListView1_->viewport()->setPalette(palette);
+        ListView1_->setAlternatingRowColors(false);
+    }
 
     // Timer1: a burst of selection changes is summed up once.
     Timer1_ = new QTimer(this);

@@ -21,6 +21,7 @@
 #include "shell/window_arrangement.h"
 #include "ui/about.h"
 #include "ui/icons.h"
+#include "ui/main_background.h"
 #include "ui/news_panel.h"
 #include "ui/text_codec.h"
 
@@ -32,6 +33,7 @@ frmMain::frmMain(Common& common, Desktop& desktop, const Clock& clock)
     setWindowTitle("ZVX");
     setWindowIcon(ThemeIcon("zvx"));
     mdi_ = new QMdiArea;
+    mdi_->setBackground(MainBackground());
     mdi_->setObjectName("MDIClient");
     setCentralWidget(mdi_);
     news_ = new NewsPanel(this);

@@ -13,6 +13,7 @@
 #include "main_window_fixture.h"
 #include "shell/common.h"
 #include "shell/config_files.h"
+#include "store/settings.h"
 #include "support/catalogue_bytes.h"
 
 namespace zvx {
@@ -65,6 +66,15 @@ TEST_F(DocumentWindowTest, OpeningShowsTheTreeAndTheFirstFoldersEntries) {
     main->ZVXCoreCalls("document_view_subview");
     EXPECT_EQ(list->model()->rowCount(), 2);
     EXPECT_TRUE(main->menuEntry("viewmnu0")->isChecked());
+}
+
+TEST_F(DocumentWindowTest, TheListShowsTheBackgroundPictureWhenAskedTo) {
+    WriteSetting(env.common, "LISTVIEWSHOWBACK", "YES");
+    frmDocument* document = open();
+    auto* list = document->findChild<QTreeView*>("ListView1");
+    EXPECT_EQ(list->viewport()->palette().brush(QPalette::Base).style(), Qt::TexturePattern);
+    EXPECT_FALSE(list->viewport()->palette().brush(QPalette::Base).texture().isNull());
+    screenshot(main.get(), "list_background_picture");
 }
 
 TEST_F(DocumentWindowTest, EachListStyleShowsTheRows) {
