@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -72,6 +73,15 @@ frmDocument::frmDocument(Common& common, QWidget* parent) : QWidget(parent), com
         if (!filling_)
             folderSelected();
     });
+    connect(List2_, &QTreeWidget::itemCollapsed, this, &frmDocument::List2_Collapse);
+    List2_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(List2_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        if (onFolderPopup)
+            onFolderPopup(List2_->viewport()->mapToGlobal(at));
+    });
+    auto* deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), List2_);
+    deleteKey->setContext(Qt::WidgetShortcut);
+    connect(deleteKey, &QShortcut::activated, this, &frmDocument::delFolder_Click);
     subViewing_ = common_.settings.defaultSubViewing;
     setListStyle(ListStyleFromSetting(common_.settings.defaultListStyle));
     loadColumnSetting(StartColumnSettingName(common_));
@@ -140,6 +150,24 @@ int frmDocument::selectedFolder() const {
 const FolderNode* frmDocument::selectedNode() const {
     const int node = selectedFolder();
     return node >= 0 && node < tree_.size() ? &tree_.nodes[static_cast<size_t>(node)] : nullptr;
+}
+
+// A collapsed node becomes the selected one; when it hid the folder on show, that
+// folder's listing gives way to the collapsed one's.
+void frmDocument::List2_Collapse(QTreeWidgetItem* item) {
+    const int node = NodeOfItem(item);
+    if (filling_ || node < 0 || node >= tree_.size())
+        return;
+    const std::string& path = tree_.nodes[static_cast<size_t>(node)].fullPath;
+    const std::string shown = FromQString(Label1_->property("Tag").toString());
+    filling_ = true;
+    List2_->setCurrentItem(item);
+    filling_ = false;
+    if (shown.size() > path.size() && shown.starts_with(path)) {
+        Editor_Final_Apply_Changes();
+        showCaption();
+        ShowEntries();
+    }
 }
 
 // A node click: the folder line and the listing.

@@ -17,6 +17,7 @@
 
 class QLabel;
 class QListView;
+class QPoint;
 class QSplitter;
 class QStackedWidget;
 class QTabWidget;
@@ -50,6 +51,8 @@ class frmDocument : public QWidget, public DocumentView {
     std::function<void()> onSelectionChanged;
     std::function<void(const std::string&)> onSummary;
     std::function<void(const std::string&)> coreCalls;
+    // Shows the main window's folder pop-up menu at a screen position.
+    std::function<void(const QPoint&)> onFolderPopup;
 
     // The tree (listak) and the list (ShowEntries).
     void listak();
@@ -90,6 +93,7 @@ class frmDocument : public QWidget, public DocumentView {
     void buildList();
     void showTree(int select, bool expand);
     void folderSelected();
+    void List2_Collapse(QTreeWidgetItem* item);
     void showCaption();
     void applyFolderChange(bool changed, const std::string& reselect);
     void sortBy(int column);

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QTimer>
 #include <algorithm>
 
@@ -267,6 +268,7 @@ DocumentView* frmMain::createView(const std::string& caption) {
     document->onSelectionChanged = [this] { updateDocumentState(); };
     document->onSummary = [this](const std::string& text) { setSummary(ToQString(text)); };
     document->coreCalls = [this](const std::string& name) { ZVXCoreCalls(name); };
+    document->onFolderPopup = [this](const QPoint& at) { folderMenu_->popup(at); };
     document->onClose = [this, document] {
         if (Document* open = lifecycle_->find(document))
             lifecycle_->Close(*open);

@@ -117,6 +117,7 @@ class frmMain : public QMainWindow, public DocumentWindows {
     NewsPanel* news_;
     QMenu* fileMenu_ = nullptr;
     QMenu* columnMenu_ = nullptr;
+    QMenu* folderMenu_ = nullptr;
     QAction* recentTOP_ = nullptr;
     QToolBar* Toolbar1_ = nullptr;
     QToolBar* ViewBar_ = nullptr;

@@ -73,6 +73,7 @@ void frmMain::buildMenus() {
     addEntry(add, "addmnu2", "&Manually...", "list-add");
 
     QMenu* folders = menuBar()->addMenu("F&older");
+    folderMenu_ = folders;
     folders->menuAction()->setObjectName("pathmnuTOP");
     addEntry(folders, "pathmnu0", "&New Folder...", "folder-new");
     addEntry(folders, "pathmnu1", "&Properties...", "document-properties");

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -75,6 +76,33 @@ TEST_F(DocumentWindowTest, TheListShowsTheBackgroundPictureWhenAskedTo) {
     EXPECT_EQ(list->viewport()->palette().brush(QPalette::Base).style(), Qt::TexturePattern);
     EXPECT_FALSE(list->viewport()->palette().brush(QPalette::Base).texture().isNull());
     screenshot(main.get(), "list_background_picture");
+}
+
+TEST_F(DocumentWindowTest, CollapsingTheBranchOfTheShownFolderListsTheCollapsedOne) {
+    frmDocument* document = open();
+    auto* tree = document->findChild<QTreeWidget*>("List2");
+    QTreeWidgetItem* music = tree->topLevelItem(0);
+    music->setExpanded(true);
+    tree->setCurrentItem(music->child(0));
+    EXPECT_EQ(Cell(document, 0, 0), "b.mp3");
+    tree->doItemsLayout();  // a pending layout swallows the collapse signal
+    music->setExpanded(false);
+    EXPECT_EQ(tree->currentItem(), music);
+    EXPECT_EQ(document->findChild<QLabel*>("Label1")->text(), "Folder: Music (songs)");
+    EXPECT_EQ(Cell(document, 0, 0), "a.mp3");
+}
+
+TEST_F(DocumentWindowTest, TheDeleteKeyOnTheTreeAsksToDeleteTheFolder) {
+    frmDocument* document = open();
+    auto* tree = document->findChild<QTreeWidget*>("List2");
+    auto* deleteKey = tree->findChild<QShortcut*>();
+    ASSERT_NE(deleteKey, nullptr);
+    EXPECT_EQ(deleteKey->key(), QKeySequence(Qt::Key_Delete));
+    env.screen.answerMessage(MsgAnswer::No);
+    emit deleteKey->activated();
+    ASSERT_FALSE(env.screen.shown.empty());
+    EXPECT_NE(env.screen.shown.back().text.find("delete the selected Folder"), std::string::npos);
+    EXPECT_EQ(tree->topLevelItemCount(), 2);
 }
 
 TEST_F(DocumentWindowTest, EachListStyleShowsTheRows) {
