@@ -76,6 +76,14 @@ void frmDocument::buildList() {
         if (onSelectionChanged)
             onSelectionChanged();
     };
+    for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(ListView1_),
+                                    static_cast<QAbstractItemView*>(iconView_)}) {
+        view->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(view, &QWidget::customContextMenuRequested, this, [this, view](const QPoint& at) {
+            if (onEntryPopup)
+                onEntryPopup(view->viewport()->mapToGlobal(at));
+        });
+    }
     connect(ListView1_, &QAbstractItemView::activated, this, execute);
     connect(iconView_, &QAbstractItemView::activated, this, execute);
     auto* selectAll = new QAction(this);

@@ -53,6 +53,8 @@ class frmDocument : public QWidget, public DocumentView {
     std::function<void(const std::string&)> coreCalls;
     // Shows the main window's folder pop-up menu at a screen position.
     std::function<void(const QPoint&)> onFolderPopup;
+    // Shows the main window's entry pop-up menu at a screen position.
+    std::function<void(const QPoint&)> onEntryPopup;
 
     // The tree (listak) and the list (ShowEntries).
     void listak();

@@ -269,6 +269,7 @@ DocumentView* frmMain::createView(const std::string& caption) {
     document->onSummary = [this](const std::string& text) { setSummary(ToQString(text)); };
     document->coreCalls = [this](const std::string& name) { ZVXCoreCalls(name); };
     document->onFolderPopup = [this](const QPoint& at) { folderMenu_->popup(at); };
+    document->onEntryPopup = [this](const QPoint& at) { entryMenu_->popup(at); };
     document->onClose = [this, document] {
         if (Document* open = lifecycle_->find(document))
             lifecycle_->Close(*open);

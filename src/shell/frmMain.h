@@ -118,6 +118,7 @@ class frmMain : public QMainWindow, public DocumentWindows {
     QMenu* fileMenu_ = nullptr;
     QMenu* columnMenu_ = nullptr;
     QMenu* folderMenu_ = nullptr;
+    QMenu* entryMenu_ = nullptr;
     QAction* recentTOP_ = nullptr;
     QToolBar* Toolbar1_ = nullptr;
     QToolBar* ViewBar_ = nullptr;

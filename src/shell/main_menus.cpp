@@ -66,6 +66,7 @@ void frmMain::buildMenus() {
     addEntry(view, "reportstylemnu0", "&Save Column Setting...");
 
     QMenu* entries = menuBar()->addMenu("&Entry");
+    entryMenu_ = entries;
     entries->menuAction()->setObjectName("foldermnuTOP");
     QMenu* add = entries->addMenu("&Add");
     add->setObjectName("addmnu");
