@@ -44,6 +44,13 @@ struct TreeFixture {
         return out;
     }
 
+    size_t entryCount() const {
+        size_t total = 0;
+        for (const auto& [id, names] : entries())
+            total += names.size();
+        return total;
+    }
+
     test::TestEnvironment env;
     std::filesystem::path root = env.folder / "medium";
     std::filesystem::path cfn = env.folder / "doc.zvd";
@@ -111,10 +118,7 @@ TEST(AddTree, RealFoldersWithoutAParentLeaveTheRootFilesOut) {
     ASSERT_EQ(toc.size(), 4u);
     EXPECT_EQ(toc[1].path, "Pop\\");
     EXPECT_EQ(toc[3].path, "Rock\\Live\\");
-    size_t total = 0;
-    for (const auto& [id, names] : f.entries())
-        total += names.size();
-    EXPECT_EQ(total, 3u);
+    EXPECT_EQ(f.entryCount(), 3u);
 }
 
 TEST(AddTree, IntoTheSelectedFolderEveryFileGoesThere) {
@@ -137,10 +141,7 @@ TEST(AddTree, APatternLimitsFilesButNotFolders) {
     std::vector<TocGroup> toc = f.toc();
     ASSERT_EQ(toc.size(), 5u);
     EXPECT_EQ(toc[1].path, "\\x\\");
-    size_t total = 0;
-    for (const auto& [id, names] : f.entries())
-        total += names.size();
-    EXPECT_EQ(total, 1u);
+    EXPECT_EQ(f.entryCount(), 1u);
 }
 
 TEST(AddTree, ANameWithALineBreakIsABlankAndIsFoundAgain) {
