@@ -207,9 +207,8 @@ TEST(ZvxcatAdd, TheCatalogueIsReplacedOnlyAtTheEnd) {
     EXPECT_EQ(Names(box, "c.zvx", "Music"), std::vector<std::string>{"a.mp3"});
 }
 
-// Fails: NativePathArgument (src/app/zvxcat/arguments.cpp) makes a path absolute without
-// normalising it, so the Path field keeps "\.\", "\..\" or a trailing "\".
-TEST(ZvxcatAdd, DISABLED_TheSameFileSpelledOtherwiseIsTheSameEntry) {
+// "./", "//" and ".." in a path argument are spelled away before the path is stored.
+TEST(ZvxcatAdd, TheSameFileSpelledOtherwiseIsTheSameEntry) {
     ToolSandbox box;
     WriteAll(box / "c.zvx", kMusicAndRock);
     WriteMp3(box / "in" / "a.mp3", 1000);

@@ -46,7 +46,12 @@ void RequirePositionalCount(const Arguments& arguments, size_t least, size_t mos
 std::filesystem::path NativePathArgument(const std::string& text) {
     if (text.empty())
         throw UsageError("an empty path");
-    return std::filesystem::absolute(text);
+    // One spelling a path: "./a", "a//b" and "x/../a" name what "a" names, so that an
+    // entry's path and the duplicate check see the same text.
+    std::filesystem::path path = std::filesystem::absolute(text).lexically_normal();
+    if (!path.has_filename() && path != path.root_path())
+        path = path.parent_path();
+    return path;
 }
 
 }  // namespace zvx::cat
