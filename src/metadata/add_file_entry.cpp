@@ -10,7 +10,6 @@
 #include "metadata/scan_file_name.h"
 #include "platform/catalogue_path.h"
 #include "platform/file_facts.h"
-#include "platform/file_io.h"
 #include "shell/common.h"
 #include "shell/numeric_value.h"
 #include "store/append_entry.h"
@@ -81,8 +80,9 @@ EntryValues ComposeValues(const Common& common, std::string contentType) {
 void AddFileEntry(Common& common, const std::filesystem::path& cfn,
                   const std::filesystem::path& file, std::string_view folderId, bool detag,
                   bool checkDoubles) {
-    bool readOnly = false;
-    if (!RunFileStep(common, [&] { readOnly = IsReadOnlyFile(file); }))
+    // The first touch of the file, where a missing one fails: all its facts at once.
+    FileFacts facts;
+    if (!RunFileStep(common, [&] { facts = ReadFileFacts(file); }))
         return;
     ClearReaderValues(common);
 
@@ -96,10 +96,7 @@ void AddFileEntry(Common& common, const std::filesystem::path& cfn,
         parts.hasExtension ? parts.name + "." + content.extension : parts.name;
     const std::string catalogueText = parts.folder + "\\" + fileName;
 
-    long long size = 0;
-    if (!RunFileStep(common, [&] { size = static_cast<long long>(FileLength(file)); }))
-        return;
-    if (size < 1 && !common.settings.addNullSizedFiles)
+    if (facts.size < 1 && !common.settings.addNullSizedFiles)
         return;
 
     if (mp3 && !RunFileStep(common, [&] { AnalyseMP3Stream(common, file); }))
@@ -118,13 +115,12 @@ void AddFileEntry(Common& common, const std::filesystem::path& cfn,
     }
 
     EntryValues values = ComposeValues(common, EntryContentType(common, content.contentType));
-    values.size = std::to_string(size);
-    values.driveId = common.volumeLabels.labelOf(file);
-    values.driveDescription = common.volumeLabels.labelOf(file);
-    if (!RunFileStep(common, [&] { values.date = FileDateText(file); }))
-        return;
+    values.size = std::to_string(facts.size);
+    values.driveId = common.volumeLabels.labelOfDevice(facts.device);
+    values.driveDescription = values.driveId;
+    values.date = facts.date;
     RunFileStep(common, [&] {
-        AppendEntry(common, cfn, folderId, catalogueText, values, readOnly, checkDoubles);
+        AppendEntry(common, cfn, folderId, catalogueText, values, facts.readOnly, checkDoubles);
     });
 }
 

@@ -11,27 +11,23 @@ namespace zvx {
 
 namespace {
 
-struct stat StatOf(const std::filesystem::path& path) {
-    struct stat info;
-    if (::stat(path.c_str(), &info) != 0)
-        ThrowFileError("Cannot read the attributes of", path);
-    return info;
-}
-
-}  // namespace
-
-bool IsReadOnlyFile(const std::filesystem::path& path) {
-    return (StatOf(path).st_mode & S_IWUSR) == 0;
-}
-
-std::string FileDateText(const std::filesystem::path& path) {
-    std::time_t changed = StatOf(path).st_mtime;
+std::string DateText(std::time_t changed) {
     std::tm local{};
     localtime_r(&changed, &local);
     char text[32];
     std::snprintf(text, sizeof text, "%02d-%02d-%04d", local.tm_mon + 1, local.tm_mday,
                   local.tm_year + 1900);
     return text;
+}
+
+}  // namespace
+
+FileFacts ReadFileFacts(const std::filesystem::path& path) {
+    struct stat info;
+    if (::stat(path.c_str(), &info) != 0)
+        ThrowFileError("Cannot read the attributes of", path);
+    return {(info.st_mode & S_IWUSR) == 0, static_cast<uint64_t>(info.st_size),
+            DateText(info.st_mtime), info.st_dev};
 }
 
 }  // namespace zvx

@@ -1,18 +1,25 @@
 #pragma once
-// What a catalogue entry records of a file besides its length (FileLength): whether it
-// is read-only and the date it was last changed. A symbolic link counts by its target.
-// Each throws FileError when the file cannot be read: a missing file 53, a missing
-// folder on its path 76, no permission 70.
+// What a catalogue entry records of a file: whether it is read-only, its length, the
+// date it was last changed, and the file system it lies on (for the volume label). One
+// read of the file's attributes gives all of it; a symbolic link counts by its target.
 
+#include <sys/types.h>
+
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
 namespace zvx {
 
-// True when the owner has no write permission: the read-only attribute.
-bool IsReadOnlyFile(const std::filesystem::path& path);
+struct FileFacts {
+    bool readOnly = false;  // the owner has no write permission: the read-only attribute
+    uint64_t size = 0;
+    std::string date;  // the modification date in local time, "mm-dd-yyyy"
+    dev_t device = 0;
+};
 
-// The modification date in local time, as "mm-dd-yyyy".
-std::string FileDateText(const std::filesystem::path& path);
+// Throws FileError when the file cannot be read: a missing file 53, a missing folder on
+// its path 76, no permission 70.
+FileFacts ReadFileFacts(const std::filesystem::path& path);
 
 }  // namespace zvx

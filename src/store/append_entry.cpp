@@ -21,16 +21,17 @@ void ApplyCaseModeToTexts(EntryValues& v, int mode) {
     }
 }
 
-// Writes the line with CR LF at the end of the file, and tells an add run's index where.
+// Writes the line with CR LF at the end of the file; an add run on the file writes it
+// through the file it keeps open, and records it.
 void AppendLine(Common& common, const std::filesystem::path& target, std::string_view line) {
     DuplicateIndex* index = common.duplicateIndex.get();
-    const bool indexed = index && index->tracks(target);
-    const uint64_t offset = indexed ? FileLength(target) : 0;
+    if (index && index->isCatalogue(target)) {
+        index->appendLine(line);
+        return;
+    }
     AppendWriter writer(target);
     writer.writeLine(line);
     writer.close();
-    if (indexed)
-        index->appended(offset, line);
 }
 
 }  // namespace

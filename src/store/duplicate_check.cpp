@@ -109,6 +109,9 @@ bool CheckDuplicate(Common& common, const std::filesystem::path& file, std::stri
     DuplicateIndex* index = common.duplicateIndex.get();
     if (!isDecheck && index && index->answersFor(file))
         return CheckByIndex(common, *index, newLine);
+    // The scan may replace the file, which the run must then open anew.
+    if (index && index->isCatalogue(file))
+        index->release();
     return CheckByScan(common, file, newLine, isDecheck);
 }
 

@@ -64,8 +64,10 @@ bool DuplicateIndex::answersFor(const std::filesystem::path& file) {
     return usable_;
 }
 
-bool DuplicateIndex::tracks(const std::filesystem::path& file) const {
-    return built_ && usable_ && file == catalogue_;
+OpenFile& DuplicateIndex::file() const {
+    if (!file_)
+        file_ = std::make_unique<OpenFile>(catalogue_);
+    return *file_;
 }
 
 // The check counts lines from the entry offset, the strike-out from the TOC's end, so the
@@ -120,7 +122,7 @@ std::vector<size_t> DuplicateIndex::candidates(std::string_view newLine) const {
 std::string DuplicateIndex::lineAt(size_t number) const {
     const uint64_t offset = lines_[number].offset;
     for (size_t chunk = kReadBackChunk;; chunk *= 2) {
-        std::string bytes = ReadFileBytes(catalogue_, offset, chunk);
+        std::string bytes = file().readAt(offset, chunk);
         const size_t lf = bytes.find('\n');
         if (lf == std::string::npos) {
             if (bytes.size() == chunk)
@@ -137,11 +139,20 @@ void DuplicateIndex::strike(size_t number) {
     ++struckCount_;
 }
 
-void DuplicateIndex::appended(uint64_t offset, std::string_view line) {
-    add(offset, line);
+void DuplicateIndex::appendLine(std::string_view line) {
+    OpenFile& out = file();
+    const bool indexed = built_ && usable_;
+    const uint64_t offset = indexed ? out.size() : 0;
+    std::string bytes;
+    bytes.reserve(line.size() + 2);
+    bytes.append(line).append("\r\n");
+    out.append(bytes);
+    if (indexed)
+        add(offset, line);
 }
 
 void DuplicateIndex::finish(const Common& common) {
+    release();
     if (struckCount_ == 0)
         return;
     StrikeOutLines(common, catalogue_, [this](uint64_t number) {

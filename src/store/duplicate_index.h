@@ -10,10 +10,13 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
+
+#include "platform/open_file.h"
 
 namespace zvx {
 
@@ -35,8 +38,8 @@ class DuplicateIndex {
     // once would (see the build). The first call for the catalogue builds the index by
     // one scan of the file.
     bool answersFor(const std::filesystem::path& file);
-    // Whether lines appended to `file` are to be recorded: its catalogue, indexed.
-    bool tracks(const std::filesystem::path& file) const;
+    // Whether `file` is the catalogue of the run, which appendLine writes to.
+    bool isCatalogue(const std::filesystem::path& file) const { return file == catalogue_; }
 
     // The lines not struck out whose key hashes like the new line's, by their 0-based
     // number among the entry lines, in file order. Equal hashes are no proof of a
@@ -46,8 +49,11 @@ class DuplicateIndex {
     std::string lineAt(size_t number) const;
     // The line no longer hits, and leaves the catalogue when the run ends.
     void strike(size_t number);
-    // Records a line appended at the 0-based byte `offset`.
-    void appended(uint64_t offset, std::string_view line);
+    // Appends the line and CR LF to the catalogue, through a file kept open for the run
+    // (one write, nothing buffered), and records it once the index is built.
+    void appendLine(std::string_view line);
+    // Closes the kept file: the catalogue is about to be replaced under its name.
+    void release() { file_.reset(); }
 
     // Removes the struck lines in one rewrite through tempfil2.tmp.
     void finish(const Common& common);
@@ -64,7 +70,10 @@ class DuplicateIndex {
     bool scanEntries(LineReader& reader);
     void add(uint64_t offset, std::string_view line);
 
+    OpenFile& file() const;
+
     std::filesystem::path catalogue_;
+    mutable std::unique_ptr<OpenFile> file_;
     KeyHash hash_;
     bool built_ = false;
     bool usable_ = false;

@@ -58,13 +58,13 @@ TEST(FileFacts, ReadOnlyIsTheMissingOwnerWriteBitOfTheTarget) {
     fs::path file = folder / "song.mp3";
     test::WriteAll(file, "x");
     fs::permissions(file, fs::perms::owner_read | fs::perms::group_write);
-    EXPECT_TRUE(IsReadOnlyFile(file));
+    EXPECT_TRUE(ReadFileFacts(file).readOnly);
     fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
-    EXPECT_FALSE(IsReadOnlyFile(file));
+    EXPECT_FALSE(ReadFileFacts(file).readOnly);
     // A link, writable in itself, counts by the read-only file it leads to.
     fs::create_symlink(file, folder / "link.mp3");
     fs::permissions(file, fs::perms::owner_read);
-    EXPECT_TRUE(IsReadOnlyFile(folder / "link.mp3"));
+    EXPECT_TRUE(ReadFileFacts(folder / "link.mp3").readOnly);
 }
 
 TEST(FileFacts, DateIsTheLocalModificationDateMonthFirst) {
@@ -81,15 +81,13 @@ TEST(FileFacts, DateIsTheLocalModificationDateMonthFirst) {
     local.tm_min = 30;
     local.tm_isdst = -1;
     SetModificationTime(file, std::mktime(&local));
-    EXPECT_EQ(FileDateText(file), "12-31-2002");
+    EXPECT_EQ(ReadFileFacts(file).date, "12-31-2002");
 }
 
 TEST(FileFacts, AMissingFileOrFolderIsNamedByItsNumber) {
     test::TempFolder folder;
-    EXPECT_EQ(ErrorNumberOf([&] { IsReadOnlyFile(folder / "gone.mp3"); }), 53);
-    EXPECT_EQ(ErrorNumberOf([&] { FileDateText(folder / "gone.mp3"); }), 53);
-    EXPECT_EQ(ErrorNumberOf([&] { IsReadOnlyFile(folder / "nodir" / "a.mp3"); }), 76);
-    EXPECT_EQ(ErrorNumberOf([&] { FileDateText(folder / "nodir" / "a.mp3"); }), 76);
+    EXPECT_EQ(ErrorNumberOf([&] { ReadFileFacts(folder / "gone.mp3"); }), 53);
+    EXPECT_EQ(ErrorNumberOf([&] { ReadFileFacts(folder / "nodir" / "a.mp3"); }), 76);
 }
 
 TEST(FileFacts, AFolderWithoutPermissionIsAccessDenied) {
@@ -99,7 +97,7 @@ TEST(FileFacts, AFolderWithoutPermissionIsAccessDenied) {
     fs::create_directory(folder / "closed");
     test::WriteAll(folder / "closed" / "a.mp3", "x");
     fs::permissions(folder / "closed", fs::perms::none);
-    EXPECT_EQ(ErrorNumberOf([&] { IsReadOnlyFile(folder / "closed" / "a.mp3"); }), 70);
+    EXPECT_EQ(ErrorNumberOf([&] { ReadFileFacts(folder / "closed" / "a.mp3"); }), 70);
     fs::permissions(folder / "closed", fs::perms::owner_all);
 }
 
