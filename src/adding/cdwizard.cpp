@@ -177,8 +177,8 @@ void cdwizard::loadSettings() {
     Text2_->setText(ToQString(s.pattern));
     (s.useOwnDescription ? Option3_ : Option4_)->setChecked(true);
     Text3_->setText(ToQString(s.ownDescription));
-    ImageCombo1_->setCurrentIndex(s.topIconRow);
-    ImageCombo2_->setCurrentIndex(s.subIconRow);
+    ImageCombo1_->setCurrentIndex(s.topIconRow - 1);
+    ImageCombo2_->setCurrentIndex(s.subIconRow - 1);
     Check4_->setChecked(s.saveMySettings);
     enableControls();
     ProposeRootName();
@@ -199,8 +199,8 @@ CdwizardSettings cdwizard::currentSettings() const {
     s.pattern = FromQString(Text2_->text());
     s.useOwnDescription = Option3_->isChecked();
     s.ownDescription = FromQString(Text3_->text());
-    s.topIconRow = ImageCombo1_->currentIndex();
-    s.subIconRow = ImageCombo2_->currentIndex();
+    s.topIconRow = ImageCombo1_->currentIndex() + 1;
+    s.subIconRow = ImageCombo2_->currentIndex() + 1;
     s.saveMySettings = Check4_->isChecked();
     return s;
 }
@@ -272,6 +272,7 @@ void cdwizard::command2_Click() {
     std::string name = FromQString(Text1_->text());
     if (Check6_->isChecked()) {
         const std::string problem = ParentalNameProblem(name);
+        Text1_->setText(ToQString(name));
         if (!problem.empty()) {
             Warn(common_, "Error.", problem);
             return;

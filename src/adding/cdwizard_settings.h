@@ -21,9 +21,9 @@ struct CdwizardSettings {
     std::string pattern = "*.*";              // ADDWIZTHEADDPATTERN
     bool useOwnDescription = true;            // ADDWIZUSEOWNDESCRIPTION
     std::string ownDescription;               // ADDWIZTHEOWNDESCRIPTION
-    int topIconRow = 5;                       // DEFAULTTOPLEVELFOLDER
-    int subIconRow = 1;                       // DEFAULTLOWLEVELFOLDER
-    bool saveMySettings = true;               // ADDWIZSAVEMYSETTINGS
+    int topIconRow = 5;          // DEFAULTTOPLEVELFOLDER: item of the icon combo, from 1
+    int subIconRow = 1;          // DEFAULTLOWLEVELFOLDER: item of the icon combo, from 1
+    bool saveMySettings = true;  // ADDWIZSAVEMYSETTINGS
 };
 
 CdwizardSettings LoadCdwizardSettings(const Common& common);

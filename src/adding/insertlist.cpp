@@ -87,6 +87,7 @@ void insertlist::start() {
 
 void insertlist::listmore(const std::string& path) {
     zvx::listmore(rows_, path);
+    dataact();
 }
 
 void insertlist::dataact() {
@@ -148,7 +149,7 @@ bool insertlist::eventFilter(QObject* watched, QEvent* event) {
         auto* drop = static_cast<QDropEvent*>(event);
         for (const QUrl& url : drop->mimeData()->urls()) {
             if (url.isLocalFile())
-                listmore(FromQString(url.toLocalFile()));
+                zvx::listmore(rows_, FromQString(url.toLocalFile()));
         }
         dataact();
         drop->acceptProposedAction();

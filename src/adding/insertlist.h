@@ -26,7 +26,7 @@ class insertlist : public QDialog {
     // Loads the form: with an empty tree the document is asked for a folder first, and
     // without one the form closes at once. Then shows it modally.
     void start();
-    // listmore: adds a row for a native path.
+    // listmore: adds a row for a native path and shows the list anew.
     void listmore(const std::string& path);
 
     void Command2_Click();

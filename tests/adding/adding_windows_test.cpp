@@ -176,8 +176,8 @@ TEST_F(AddingWindowTest, DeleteRemovesTheSelectedRowsAndCtrlASelectsAll) {
     EXPECT_EQ(CountText(form), "Currently are 0 files selected for inserting.");
 }
 
-// listmore leaves ListView1 as it was until dataact, which no other form can call.
-TEST_F(AddingWindowTest, DISABLED_ARowFromListmoreShowsAtOnce) {
+// Another form's listmore shows its row without further ado.
+TEST_F(AddingWindowTest, ARowFromListmoreShowsAtOnce) {
     frmDocument* document = openDocument();
     insertlist form(env.common, *document);
     form.listmore(inputFile("a.txt").string());
@@ -384,8 +384,8 @@ TEST_F(WizardTest, ControlsCarryTheirCaptionsAndEnableEachOther) {
 }
 
 // The icon rows count from 1 as the combo's items do: row 5 is "CD(-ROM)/DVD" and row 1
-// "Folder", but the combos select the sixth and the second item.
-TEST_F(WizardTest, DISABLED_TheIconRowsCountFromOne) {
+// "Folder".
+TEST_F(WizardTest, TheIconRowsCountFromOne) {
     frmDocument* document = openDocument();
     cdwizard wizard(env.common, *document, drives());
     EXPECT_EQ(Control<QComboBox>(wizard, "ImageCombo1")->currentText(), "CD(-ROM)/DVD");
@@ -568,9 +568,8 @@ TEST_F(WizardTest, AddDeviceWalksTheTreeBelowTheSelectedFolderAndCloses) {
     EXPECT_TRUE(closeAsksToSave());
 }
 
-// command2_Click trims only its own copy of the name; Text1 and the saved setting keep
-// the blanks.
-TEST_F(WizardTest, DISABLED_AddDeviceTrimsTheParentalNameInText1) {
+// The parental name is trimmed in Text1 itself, so the saved setting has no blanks.
+TEST_F(WizardTest, AddDeviceTrimsTheParentalNameInText1) {
     frmDocument* document = openDocument();
     cdwizard wizard(env.common, *document, drives());
     Control<QCheckBox>(wizard, "Check5")->setChecked(false);

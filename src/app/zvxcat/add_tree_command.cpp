@@ -13,11 +13,12 @@ namespace zvx::cat {
 
 namespace {
 
-// The icon number of --top-icon or --sub-icon, or the wizard's row when not given.
-int IconArgument(const Arguments& arguments, std::string_view option, int defaultRow) {
+// The icon number of --top-icon or --sub-icon, or the wizard's default item (counted
+// from 1) when not given.
+int IconArgument(const Arguments& arguments, std::string_view option, int defaultItem) {
     const std::string* text = arguments.value(option);
     if (!text)
-        return FolderIconTable()[static_cast<size_t>(defaultRow)].number;
+        return FolderIconTable()[static_cast<size_t>(defaultItem - 1)].number;
     int number = -1;
     auto [end, error] = std::from_chars(text->data(), text->data() + text->size(), number);
     if (error != std::errc() || end != text->data() + text->size() || FolderIconRow(number) < 0)
@@ -106,8 +107,8 @@ const Command& AddTreeCommand() {
         "  --pattern P          only files matching P, such as \"*.mp3;*.wav\"\n"
         "  --description TEXT   the new folders' description\n"
         "  --dir-description    the directory's path as description (the default)\n"
-        "  --top-icon N         icon number of the --parent folder (default 8)\n"
-        "  --sub-icon N         icon number of the other folders (default 16)\n"
+        "  --top-icon N         icon number of the --parent folder (default 4)\n"
+        "  --sub-icon N         icon number of the other folders (default 10)\n"
         "  --on-duplicate WORD  ask (default), keep-old, keep-all, overwrite, overwrite-all\n"
         "  --on-error WORD      ask (default), ignore or abort (abort skips the rest of the\n"
         "                       directory, as in the window)\n",
