@@ -55,8 +55,7 @@ class TreeWalk {
     std::string NewFolder(const std::string& tocPath, const std::string& description, int icon);
     void AddDirectory(const std::string& path);
     void EnterFolder(const std::string& path);
-    void AddDirectoryFiles(const std::string& path);
-    std::vector<std::string> SubDirectories(const std::string& path);
+    void AddDirectoryFiles(const std::string& path, const std::vector<std::string>& names);
     void status(const char* text) { common_.screen().status(text); }
 
     Common& common_;
@@ -120,11 +119,8 @@ void TreeWalk::EnterFolder(const std::string& path) {
     }
 }
 
-void TreeWalk::AddDirectoryFiles(const std::string& path) {
+void TreeWalk::AddDirectoryFiles(const std::string& path, const std::vector<std::string>& names) {
     const bool checkDoubles = !folderIsNew_;
-    common_.AbortAdding = false;
-    std::vector<std::string> names;
-    RunFileStep(common_, [&] { names = FileNamesMatching(path, choices_.pattern); });
     for (const std::string& name : names) {
         if (common_.AbortAdding)
             break;
@@ -138,20 +134,19 @@ void TreeWalk::AddDirectoryFiles(const std::string& path) {
     }
 }
 
-std::vector<std::string> TreeWalk::SubDirectories(const std::string& path) {
-    std::vector<std::string> names;
-    RunFileStep(common_, [&] { names = SubDirectoryNames(path, device_); });
-    common_.AbortAdding = false;
-    return names;
-}
-
+// One listing of the directory serves its files and its sub-directories; one that
+// cannot be listed is asked about once, and an abort then skips its files.
 void TreeWalk::AddDirectory(const std::string& path) {
     if (choices_.realFolders && path.size() > walkRoot_.size())
         EnterFolder(path);
+    DirectoryListing listing;
+    common_.AbortAdding = false;
+    RunFileStep(common_, [&] { listing = ListDirectory(path, device_, choices_.pattern); });
     if (!currentFolderId_.empty())
-        AddDirectoryFiles(path);
+        AddDirectoryFiles(path, listing.files);
+    common_.AbortAdding = false;
     const bool topLevel = common_.progressValue == 0;
-    for (const std::string& name : SubDirectories(path)) {
+    for (const std::string& name : listing.subDirectories) {
         if (topLevel)
             common_.setProgress(common_.progressValue + 1);
         AddDirectory(path + name + "/");

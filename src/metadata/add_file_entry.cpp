@@ -1,5 +1,6 @@
 #include "metadata/add_file_entry.h"
 
+#include <optional>
 #include <string>
 
 #include "metadata/content_types.h"
@@ -10,6 +11,7 @@
 #include "metadata/scan_file_name.h"
 #include "platform/catalogue_path.h"
 #include "platform/file_facts.h"
+#include "platform/media_file.h"
 #include "shell/common.h"
 #include "shell/numeric_value.h"
 #include "store/append_entry.h"
@@ -99,11 +101,16 @@ void AddFileEntry(Common& common, const std::filesystem::path& cfn,
     if (facts.size < 1 && !common.settings.addNullSizedFiles)
         return;
 
-    if (mp3 && !RunFileStep(common, [&] { AnalyseMP3Stream(common, file); }))
+    // Both readers of an MP3 share one opening of the file.
+    std::optional<MediaFile> media;
+    if (mp3 && !RunFileStep(common, [&] {
+            media.emplace(file);
+            AnalyseMP3Stream(common, *media);
+        }))
         return;
     if (mp3 && detag) {
         if (common.settings.allowDetagging)
-            ReadID3Tag(common, file);
+            ReadID3Tag(common, *media);
         if (common.settings.allowFileScan) {
             ScanFileName(common, catalogueText);
             MergeScan(common);

@@ -9,7 +9,7 @@
 
 #include "metadata/genres.h"
 #include "platform/file_error.h"
-#include "platform/file_io.h"
+#include "platform/media_file.h"
 #include "shell/common.h"
 #include "shell/field_text.h"
 #include "shell/numeric_value.h"
@@ -71,9 +71,9 @@ std::string TagGenre(unsigned char byte) {
 }
 
 // The whole block in one read, or nothing when the file cannot be read.
-std::optional<std::string> ReadBlock(const std::filesystem::path& file, uint64_t length) {
+std::optional<std::string> ReadBlock(const MediaFile& media, uint64_t length) {
     try {
-        std::string block = ReadFileBytes(file, length - kBlockSize, kBlockSize);
+        std::string block = media.readAt(length - kBlockSize, kBlockSize);
         if (block.size() == kBlockSize)
             return block;
     } catch (const FileError&) {
@@ -96,20 +96,23 @@ void FillTagValues(TagValues& tag, std::string_view block) {
 }  // namespace
 
 void ReadID3Tag(Common& common, const std::filesystem::path& file) {
+    ReadID3Tag(common, MediaFile(file));
+}
+
+void ReadID3Tag(Common& common, const MediaFile& media) {
     TagValues& tag = common.id3;
     const bool previousHasTag = tag.HasID3Tag;
     tag = TagValues{};
     tag.HasID3Tag = previousHasTag;
 
-    std::error_code ec;
-    const uintmax_t length = std::filesystem::file_size(file, ec);
-    if (ec)
+    if (!media.exists())
         return;
+    const uint64_t length = media.size();
     if (length <= kBlockSize) {
         tag.HasID3Tag = false;
         return;
     }
-    const std::optional<std::string> block = ReadBlock(file, length);
+    const std::optional<std::string> block = ReadBlock(media, length);
     if (block && UpperCase(block->substr(0, 3)) == "TAG")
         FillTagValues(tag, *block);
 }

@@ -7,6 +7,7 @@
 namespace zvx {
 
 class Common;
+class MediaFile;
 
 // Clears the tag values (TagTrack and TagYear 0), then reads the block when the file is
 // longer than 128 bytes and its first three bytes read "TAG" in upper case:
@@ -20,5 +21,7 @@ class Common;
 // longer file without "TAG", or one that cannot be read, leaves it as the previous file
 // left it. Never throws.
 void ReadID3Tag(Common& common, const std::filesystem::path& file);
+// The same over a file opened once for both readers.
+void ReadID3Tag(Common& common, const MediaFile& media);
 
 }  // namespace zvx

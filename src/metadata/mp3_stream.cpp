@@ -5,7 +5,7 @@
 #include <system_error>
 
 #include "platform/file_error.h"
-#include "platform/file_io.h"
+#include "platform/media_file.h"
 #include "shell/common.h"
 #include "shell/field_text.h"
 #include "shell/numeric_value.h"
@@ -33,8 +33,8 @@ std::string ValueOrNotAvailable(int value) {
     return value == 0 ? "n/a" : std::to_string(value);
 }
 
-std::array<unsigned char, 4> ReadHeader(const std::filesystem::path& file) {
-    const std::string bytes = ReadFileBytes(file, 0, 4);
+std::array<unsigned char, 4> ReadHeader(const MediaFile& media) {
+    const std::string bytes = media.readAt(0, 4);
     // A file cut short since its length was read leaves the missing bytes 0.
     std::array<unsigned char, 4> header{};
     std::copy(bytes.begin(), bytes.end(), header.begin());
@@ -115,15 +115,20 @@ bool MP3FileExists(const std::filesystem::path& file) {
 }
 
 std::optional<std::string> AnalyseMP3Stream(Common& common, const std::filesystem::path& file) {
+    return AnalyseMP3Stream(common, MediaFile(file));
+}
+
+std::optional<std::string> AnalyseMP3Stream(Common& common, const MediaFile& media) {
     StreamValues& stream = common.stream;
     stream.StreamSummary.clear();
-    if (!MP3FileExists(file))
+    if (!media.exists())
         return FailurePath(stream);
-    const uint64_t size = FileLength(file);
+    const uint64_t size = media.size();
+    const std::filesystem::path& file = media.path();
     if (size < kShortestFile)
         return FailurePath(stream);
 
-    const HeaderBits bits = MP3HeaderBits(ReadHeader(file));
+    const HeaderBits bits = MP3HeaderBits(ReadHeader(media));
     const std::string summary = DescribeHeader(stream, bits);
     const int bitrate = Bitrate(bits);
     std::string length = "n/a";

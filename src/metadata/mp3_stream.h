@@ -14,6 +14,7 @@
 namespace zvx {
 
 class Common;
+class MediaFile;
 
 // Element 8k + i is bit i (0 the least significant) of byte k.
 std::array<bool, 32> MP3HeaderBits(std::array<unsigned char, 4> bytes);
@@ -39,5 +40,7 @@ bool MP3FileExists(const std::filesystem::path& file);
 // 32767 seconds. On the overflow StreamBitrate, StreamFrequency and StreamMode keep the
 // file's values and StreamLength is empty.
 std::optional<std::string> AnalyseMP3Stream(Common& common, const std::filesystem::path& file);
+// The same over a file opened once for both readers.
+std::optional<std::string> AnalyseMP3Stream(Common& common, const MediaFile& media);
 
 }  // namespace zvx

@@ -87,26 +87,23 @@ dev_t DeviceOf(const std::filesystem::path& path) {
     return info.st_dev;
 }
 
-std::vector<std::string> SubDirectoryNames(const std::filesystem::path& dir, dev_t device) {
-    std::vector<std::string> names;
-    ForEachEntry(dir, [&](int dirFd, const dirent& entry) {
-        if (IsDirectoryOnDevice(dirFd, entry, device))
-            names.emplace_back(entry.d_name);
-    });
-    SortByBytes(names);
-    return names;
-}
-
-std::vector<std::string> FileNamesMatching(const std::filesystem::path& dir,
-                                           std::string_view pattern) {
-    std::vector<std::string> names;
+DirectoryListing ListDirectory(const std::filesystem::path& dir, dev_t device,
+                               std::string_view pattern) {
+    DirectoryListing listing;
     const FilePattern matcher(pattern);
     ForEachEntry(dir, [&](int dirFd, const dirent& entry) {
-        if (IsRegularOrLinkToOne(dirFd, entry) && matcher.matches(entry.d_name))
-            names.emplace_back(entry.d_name);
+        if (IsDirectoryOnDevice(dirFd, entry, device))
+            listing.subDirectories.emplace_back(entry.d_name);
+        else if (IsRegularOrLinkToOne(dirFd, entry) && matcher.matches(entry.d_name))
+            listing.files.emplace_back(entry.d_name);
     });
-    SortByBytes(names);
-    return names;
+    SortByBytes(listing.subDirectories);
+    SortByBytes(listing.files);
+    return listing;
+}
+
+std::vector<std::string> SubDirectoryNames(const std::filesystem::path& dir, dev_t device) {
+    return ListDirectory(dir, device, "").subDirectories;
 }
 
 }  // namespace zvx

@@ -21,9 +21,15 @@ dev_t DeviceOf(const std::filesystem::path& path);
 // Names of the real directories (no links) in `dir` that lie on `device`.
 std::vector<std::string> SubDirectoryNames(const std::filesystem::path& dir, dev_t device);
 
-// Names of the regular files in `dir`, a link to one included, that match `pattern` as
-// MatchesFilePattern does ("*.*" every name; a ";"-separated list any of its patterns).
-std::vector<std::string> FileNamesMatching(const std::filesystem::path& dir,
-                                           std::string_view pattern);
+struct DirectoryListing {
+    std::vector<std::string> subDirectories;  // real directories (no links) on the device
+    // Regular files, a link to one included, that match the pattern as MatchesFilePattern
+    // does ("*.*" every name; a ";"-separated list any of its patterns).
+    std::vector<std::string> files;
+};
+
+// One pass over a directory for both lists.
+DirectoryListing ListDirectory(const std::filesystem::path& dir, dev_t device,
+                               std::string_view pattern);
 
 }  // namespace zvx

@@ -2,8 +2,8 @@
 
 #include <sys/stat.h>
 
-#include <cstdio>
 #include <ctime>
+#include <string>
 
 #include "platform/file_error.h"
 
@@ -14,10 +14,13 @@ namespace {
 std::string DateText(std::time_t changed) {
     std::tm local{};
     localtime_r(&changed, &local);
-    char text[32];
-    std::snprintf(text, sizeof text, "%02d-%02d-%04d", local.tm_mon + 1, local.tm_mday,
-                  local.tm_year + 1900);
-    return text;
+    auto two = [](int value) {
+        return std::string{char('0' + value / 10), char('0' + value % 10)};
+    };
+    std::string year = std::to_string(local.tm_year + 1900);
+    if (year.size() < 4)
+        year.insert(0, 4 - year.size(), '0');
+    return two(local.tm_mon + 1) + "-" + two(local.tm_mday) + "-" + year;
 }
 
 }  // namespace

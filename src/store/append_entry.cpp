@@ -17,7 +17,8 @@ void ApplyCaseModeToTexts(EntryValues& v, int mode) {
         return;
     for (std::string* field :
          {&v.title, &v.artist, &v.album, &v.comment, &v.description, &v.producer}) {
-        *field = ApplyCaseMode(*field, mode, true);
+        if (!field->empty())
+            *field = ApplyCaseMode(*field, mode, true);
     }
 }
 

@@ -82,6 +82,8 @@ void DuplicateIndex::build() {
     if (!usable_) {
         lines_ = {};
         newest_ = {};
+    } else {
+        mapped_ = std::make_unique<MappedFile>(catalogue_);
     }
     built_ = true;
 }
@@ -121,6 +123,13 @@ std::vector<size_t> DuplicateIndex::candidates(std::string_view newLine) const {
 
 std::string DuplicateIndex::lineAt(size_t number) const {
     const uint64_t offset = lines_[number].offset;
+    if (mapped_ && offset < mapped_->bytes().size()) {
+        std::string_view rest = mapped_->bytes().substr(offset);
+        std::string_view line = rest.substr(0, rest.find('\n'));
+        if (line.ends_with('\r'))
+            line.remove_suffix(1);
+        return std::string(line);
+    }
     for (size_t chunk = kReadBackChunk;; chunk *= 2) {
         std::string bytes = file().readAt(offset, chunk);
         const size_t lf = bytes.find('\n');
@@ -149,6 +158,11 @@ void DuplicateIndex::appendLine(std::string_view line) {
     out.append(bytes);
     if (indexed)
         add(offset, line);
+}
+
+void DuplicateIndex::release() {
+    file_.reset();
+    mapped_.reset();
 }
 
 void DuplicateIndex::finish(const Common& common) {

@@ -16,6 +16,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/mapped_file.h"
 #include "platform/open_file.h"
 
 namespace zvx {
@@ -53,7 +54,7 @@ class DuplicateIndex {
     // (one write, nothing buffered), and records it once the index is built.
     void appendLine(std::string_view line);
     // Closes the kept file: the catalogue is about to be replaced under its name.
-    void release() { file_.reset(); }
+    void release();
 
     // Removes the struck lines in one rewrite through tempfil2.tmp.
     void finish(const Common& common);
@@ -74,6 +75,8 @@ class DuplicateIndex {
 
     std::filesystem::path catalogue_;
     mutable std::unique_ptr<OpenFile> file_;
+    // The catalogue as it was when the index was built: its lines read back from memory.
+    std::unique_ptr<MappedFile> mapped_;
     KeyHash hash_;
     bool built_ = false;
     bool usable_ = false;

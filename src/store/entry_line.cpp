@@ -14,6 +14,13 @@ namespace {
 std::string LowerFirstCharacter(std::string_view path) {
     if (path.empty())
         return {};
+    // An ASCII letter is lowered alike in both code pages.
+    if (static_cast<unsigned char>(path[0]) < 0x80) {
+        std::string lowered(path);
+        if (lowered[0] >= 'A' && lowered[0] <= 'Z')
+            lowered[0] = static_cast<char>(lowered[0] - 'A' + 'a');
+        return lowered;
+    }
     std::string_view first = Characters(path).front();
     return LowerChar(first, IsValidUtf8(path)) + std::string(path.substr(first.size()));
 }

@@ -56,16 +56,18 @@ TEST_F(DirectoryWalk, SubDirectoriesAreRealDirectoriesInByteOrder) {
 }
 
 TEST_F(DirectoryWalk, FilesAreRegularFilesOrLinksToOneUnderThePattern) {
-    EXPECT_EQ(FileNamesMatching(root, "*.mp3;*.WAV"), (Names{"link.mp3", "x.MP3", "y.wav"}));
-    EXPECT_EQ(FileNamesMatching(root, "*.*"),
+    EXPECT_EQ(ListDirectory(root, DeviceOf(root), "*.mp3;*.WAV").files,
+              (Names{"link.mp3", "x.MP3", "y.wav"}));
+    EXPECT_EQ(ListDirectory(root, DeviceOf(root), "*.*").files,
               (Names{"link.mp3", "noext", "x.MP3", "y.wav", "z.ogg"}));
-    EXPECT_EQ(FileNamesMatching(root / "a", "*.*"), Names{});
+    EXPECT_EQ(ListDirectory(root / "a", DeviceOf(root), "*.*").files, Names{});
 }
 
 TEST_F(DirectoryWalk, AVanishedDirectoryIsAPathNotFound) {
     EXPECT_EQ(ErrorNumberOf([&] { SubDirectoryNames(root / "gone", 0); }), 76);
-    EXPECT_EQ(ErrorNumberOf([&] { FileNamesMatching(root / "gone" / "deeper", "*.*"); }), 76);
-    EXPECT_EQ(ErrorNumberOf([&] { FileNamesMatching(root / "noext", "*.*"); }), 76);
+    EXPECT_EQ(
+        ErrorNumberOf([&] { ListDirectory(root / "gone" / "deeper", DeviceOf(root), "*.*"); }), 76);
+    EXPECT_EQ(ErrorNumberOf([&] { ListDirectory(root / "noext", DeviceOf(root), "*.*"); }), 76);
     EXPECT_EQ(ErrorNumberOf([&] { DeviceOf(root / "gone"); }), 53);
 }
 
@@ -73,7 +75,7 @@ TEST_F(DirectoryWalk, AnUnreadableDirectoryIsAccessDenied) {
     if (::geteuid() == 0)
         GTEST_SKIP() << "the superuser reads every directory";
     fs::permissions(root / "a", fs::perms::none);
-    EXPECT_EQ(ErrorNumberOf([&] { FileNamesMatching(root / "a", "*.*"); }), 70);
+    EXPECT_EQ(ErrorNumberOf([&] { ListDirectory(root / "a", DeviceOf(root), "*.*"); }), 70);
     EXPECT_EQ(ErrorNumberOf([&] { SubDirectoryNames(root / "a", DeviceOf(root)); }), 70);
     fs::permissions(root / "a", fs::perms::owner_all);
 }
