@@ -14,13 +14,16 @@ namespace zvx {
 
 namespace {
 
+// Name, path and medium ID: the fields that make two entries of a folder one.
+constexpr int kLastKeyField = 4;
+
 bool SameEntry(const EntryFields& a, const EntryFields& b) {
     return a[1] == b[1] && a[3] == b[3] && a[4] == b[4];
 }
 
 bool IsDuplicate(std::string_view line, std::string_view newLine, const EntryFields& added) {
     return line.substr(0, kFolderIdLength) == newLine.substr(0, kFolderIdLength) &&
-           SameEntry(SplitEntryLine(line), added);
+           SameEntry(SplitEntryLine(line, kLastKeyField), added);
 }
 
 bool AskOverwrite(Common& common, const EntryFields& old, const EntryFields& added) {

@@ -46,7 +46,7 @@ bool SkipTocEndedByCrLf(LineReader& reader) {
 }  // namespace
 
 uint64_t HashDuplicateKey(std::string_view line) {
-    const EntryFields fields = SplitEntryLine(line);
+    const EntryFields fields = SplitEntryLine(line, 4);
     uint64_t hash = 0;
     for (int field : {0, 1, 3, 4})
         hash = Combine(hash, fields[field]);

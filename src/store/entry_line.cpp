@@ -1,5 +1,7 @@
 #include "store/entry_line.h"
 
+#include <algorithm>
+
 #include "shell/field_text.h"
 #include "shell/text_case.h"
 #include "store/catalogue_format.h"
@@ -54,21 +56,34 @@ std::string ComposeEntryLine(std::string_view folderId, std::string_view fullPat
                                                        v.bitrate,
                                                        v.frequency,
                                                        v.mode};
-    std::string line = CleanFieldText(folderId);
+    size_t length = folderId.size();
+    for (std::string_view field : fields)
+        length += field.size() + 1;
+    std::string line;
+    line.reserve(length);
+    // No field may hold a separator or a line break: each becomes a blank.
+    auto append = [&line](std::string_view text) {
+        const size_t from = line.size();
+        line += text;
+        std::replace_if(
+            line.begin() + static_cast<std::ptrdiff_t>(from), line.end(),
+            [](char c) { return c == kFieldSeparator || c == '\r' || c == '\n'; }, ' ');
+    };
+    append(folderId);
     for (std::string_view field : fields) {
         line += kFieldSeparator;
-        line += CleanFieldText(field);
+        append(field);
     }
     return line;
 }
 
-EntryFields SplitEntryLine(std::string_view line) {
+EntryFields SplitEntryLine(std::string_view line, int lastField) {
     EntryFields fields;
     fields[0] = line.substr(0, kFolderIdLength);
     std::string_view rest = line.size() > kFolderIdLength ? line.substr(kFolderIdLength) : "";
     size_t sep = rest.find(kFieldSeparator);
     std::string_view last;
-    for (int i = 1; i <= kEntryFieldCount; ++i) {
+    for (int i = 1; i <= std::min(lastField, kEntryFieldCount); ++i) {
         if (sep != std::string_view::npos) {
             rest.remove_prefix(sep + 1);
             sep = rest.find(kFieldSeparator);

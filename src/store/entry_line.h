@@ -41,6 +41,7 @@ std::string ComposeEntryLine(std::string_view folderId, std::string_view fullPat
 // What stands between the ID and the first separator is dropped. A line with fewer
 // fields repeats its last field in every field behind it.
 using EntryFields = std::array<std::string_view, 23>;
-EntryFields SplitEntryLine(std::string_view line);
+// With `lastField` below 22 the split stops there and leaves the fields behind it empty.
+EntryFields SplitEntryLine(std::string_view line, int lastField = 22);
 
 }  // namespace zvx
