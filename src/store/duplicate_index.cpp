@@ -16,6 +16,8 @@ namespace zvx {
 
 namespace {
 
+// Appended lines wait in memory up to this size; the file gets them in one write.
+constexpr size_t kPendingLimit = 1 << 20;
 // Most entry lines are shorter, so one read brings a line back.
 constexpr size_t kReadBackChunk = 512;
 // For reserving the hash table once instead of growing it step by step.
@@ -59,14 +61,18 @@ DuplicateIndex::DuplicateIndex(std::filesystem::path catalogue, KeyHash hash)
 bool DuplicateIndex::answersFor(const std::filesystem::path& file) {
     if (file != catalogue_)
         return false;
-    if (!built_)
+    if (!built_) {
+        flush();
         build();
+    }
     return usable_;
 }
 
 OpenFile& DuplicateIndex::file() const {
-    if (!file_)
+    if (!file_) {
         file_ = std::make_unique<OpenFile>(catalogue_);
+        flushedSize_ = file_->size();
+    }
     return *file_;
 }
 
@@ -123,6 +129,10 @@ std::vector<size_t> DuplicateIndex::candidates(std::string_view newLine) const {
 
 std::string DuplicateIndex::lineAt(size_t number) const {
     const uint64_t offset = lines_[number].offset;
+    if (file_ && offset >= flushedSize_) {
+        std::string_view rest = std::string_view(pending_).substr(offset - flushedSize_);
+        return std::string(rest.substr(0, rest.find("\r\n")));
+    }
     if (mapped_ && offset < mapped_->bytes().size()) {
         std::string_view rest = mapped_->bytes().substr(offset);
         std::string_view line = rest.substr(0, rest.find('\n'));
@@ -148,19 +158,28 @@ void DuplicateIndex::strike(size_t number) {
     ++struckCount_;
 }
 
+// A failed write leaves the pending lines pending, and the new line unrecorded, so that
+// a retry of the append adds it once.
 void DuplicateIndex::appendLine(std::string_view line) {
-    OpenFile& out = file();
-    const bool indexed = built_ && usable_;
-    const uint64_t offset = indexed ? out.size() : 0;
-    std::string bytes;
-    bytes.reserve(line.size() + 2);
-    bytes.append(line).append("\r\n");
-    out.append(bytes);
-    if (indexed)
+    file();
+    if (pending_.size() >= kPendingLimit)
+        flush();
+    const uint64_t offset = flushedSize_ + pending_.size();
+    pending_.append(line).append("\r\n");
+    if (built_ && usable_)
         add(offset, line);
 }
 
+void DuplicateIndex::flush() {
+    if (pending_.empty())
+        return;
+    file().append(pending_);
+    flushedSize_ += pending_.size();
+    pending_.clear();
+}
+
 void DuplicateIndex::release() {
+    flush();
     file_.reset();
     mapped_.reset();
 }

@@ -7,6 +7,8 @@
 // changed only by AppendEntry and the duplicate check. A line the check strikes out
 // stays in the file until the run ends, and then all struck lines go in one rewrite. A
 // run interrupted before that leaves the old lines beside the new ones: nothing is lost.
+// Appended lines reach the file in blocks of up to 1 MiB and at the latest when the run
+// ends; the catalogue of a run is a working copy, never the user's file itself.
 
 #include <cstdint>
 #include <filesystem>
@@ -50,10 +52,13 @@ class DuplicateIndex {
     std::string lineAt(size_t number) const;
     // The line no longer hits, and leaves the catalogue when the run ends.
     void strike(size_t number);
-    // Appends the line and CR LF to the catalogue, through a file kept open for the run
-    // (one write, nothing buffered), and records it once the index is built.
+    // Appends the line and CR LF to the catalogue, through a file kept open for the run,
+    // and records it once the index is built. Lines are gathered in memory and written
+    // in large blocks; whatever reads the file in the run (the build, the full scan,
+    // the end of the run) writes them first.
     void appendLine(std::string_view line);
-    // Closes the kept file: the catalogue is about to be replaced under its name.
+    // Writes the gathered lines and closes the kept file: the catalogue is about to be
+    // read or replaced under its name. Throws FileError.
     void release();
 
     // Removes the struck lines in one rewrite through tempfil2.tmp.
@@ -72,9 +77,12 @@ class DuplicateIndex {
     void add(uint64_t offset, std::string_view line);
 
     OpenFile& file() const;
+    void flush();
 
     std::filesystem::path catalogue_;
     mutable std::unique_ptr<OpenFile> file_;
+    mutable uint64_t flushedSize_ = 0;  // the file's length with the written lines
+    std::string pending_;               // appended lines not yet written
     // The catalogue as it was when the index was built: its lines read back from memory.
     std::unique_ptr<MappedFile> mapped_;
     KeyHash hash_;

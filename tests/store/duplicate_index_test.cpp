@@ -160,8 +160,8 @@ TEST(DuplicateIndex, OverwrittenLinesStayUntilTheRunEnds) {
     ASSERT_TRUE(AppendEntry(env.common, file, "00000001", "c:\\m\\a.mp3", v, false, true));
     const std::string added = ComposeEntryLine("00000001", "c:\\m\\a.mp3", v, false,
                                                env.common.settings.renumberingLevel);
-    // Interrupted here, the catalogue would hold both lines.
-    EXPECT_EQ(test::ReadAll(file), CatalogueOf({old, other, added}, Layout::CrLf));
+    // Until the run ends the old line stays, and the new one waits to be written.
+    EXPECT_EQ(test::ReadAll(file), CatalogueOf({old, other}, Layout::CrLf));
     run.end();
     EXPECT_FALSE(env.common.duplicateIndex);
     EXPECT_EQ(test::ReadAll(file), CatalogueOf({other, added}, Layout::CrLf));
