@@ -95,11 +95,14 @@ std::filesystem::path FollowLink(const std::filesystem::path& path) {
 
 std::string ReadFileBytes(const std::filesystem::path& path, uint64_t offset, size_t count) {
     Fd fd(path, O_RDONLY, "Cannot open");
+    return ReadBytesAt(fd.get(), offset, count, path);
+}
+
+std::string ReadBytesAt(int fd, uint64_t offset, size_t count, const std::filesystem::path& path) {
     std::string bytes(count, '\0');
     size_t got = 0;
     while (got < count) {
-        ssize_t n =
-            ::pread(fd.get(), bytes.data() + got, count - got, static_cast<off_t>(offset + got));
+        ssize_t n = ::pread(fd, bytes.data() + got, count - got, static_cast<off_t>(offset + got));
         if (n < 0 && errno == EINTR)
             continue;
         if (n < 0)

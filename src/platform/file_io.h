@@ -11,6 +11,8 @@ namespace zvx {
 
 // Up to `count` bytes from the 0-based `offset`; fewer at the end of the file.
 std::string ReadFileBytes(const std::filesystem::path& path, uint64_t offset, size_t count);
+// The same from an open file descriptor; `path` names the file in an error.
+std::string ReadBytesAt(int fd, uint64_t offset, size_t count, const std::filesystem::path& path);
 // Writes bytes in place at the 0-based `offset`, extending the file if needed.
 void WriteFileBytes(const std::filesystem::path& path, uint64_t offset, std::string_view bytes);
 // Creates the file empty, whatever stood there.

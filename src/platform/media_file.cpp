@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/file_error.h"
+#include "platform/file_io.h"
 
 namespace zvx {
 
@@ -53,21 +54,7 @@ std::string MediaFile::readAt(uint64_t offset, size_t count) const {
         errno = openError_;
         ThrowFileError("Cannot open", path_);
     }
-    std::string bytes(count, '\0');
-    size_t done = 0;
-    while (done < count) {
-        const ssize_t got =
-            ::pread(fd_, bytes.data() + done, count - done, static_cast<off_t>(offset + done));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            ThrowFileError("Cannot read", path_);
-        if (got == 0)
-            break;
-        done += static_cast<size_t>(got);
-    }
-    bytes.resize(done);
-    return bytes;
+    return ReadBytesAt(fd_, offset, count, path_);
 }
 
 }  // namespace zvx

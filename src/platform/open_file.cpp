@@ -7,6 +7,7 @@
 #include <cerrno>
 
 #include "platform/file_error.h"
+#include "platform/file_io.h"
 
 namespace zvx {
 
@@ -39,21 +40,7 @@ void OpenFile::append(std::string_view bytes) {
 }
 
 std::string OpenFile::readAt(uint64_t offset, size_t count) const {
-    std::string bytes(count, '\0');
-    size_t done = 0;
-    while (done < count) {
-        const ssize_t got =
-            ::pread(fd_, bytes.data() + done, count - done, static_cast<off_t>(offset + done));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            ThrowFileError("Cannot read", path_);
-        if (got == 0)
-            break;
-        done += static_cast<size_t>(got);
-    }
-    bytes.resize(done);
-    return bytes;
+    return ReadBytesAt(fd_, offset, count, path_);
 }
 
 }  // namespace zvx
