@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QListView>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTimer>
@@ -78,6 +79,13 @@ void frmDocument::buildList() {
     };
     for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(ListView1_),
                                     static_cast<QAbstractItemView*>(iconView_)}) {
+        // Delete removes the selected entries when the menu offers it.
+        auto* deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), view);
+        deleteKey->setContext(Qt::WidgetShortcut);
+        connect(deleteKey, &QShortcut::activated, this, [this] {
+            if (menuEnabled && coreCalls && menuEnabled("foldermnu7"))
+                coreCalls("foldermnu7");
+        });
         view->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(view, &QWidget::customContextMenuRequested, this, [this, view](const QPoint& at) {
             if (onEntryPopup)

@@ -53,6 +53,8 @@ class frmDocument : public QWidget, public DocumentView {
     std::function<void(const std::string&)> coreCalls;
     // Shows the main window's folder pop-up menu at a screen position.
     std::function<void(const QPoint&)> onFolderPopup;
+    // Whether the main window's menu item of a key is there and enabled.
+    std::function<bool(const std::string&)> menuEnabled;
     // Shows the main window's entry pop-up menu at a screen position.
     std::function<void(const QPoint&)> onEntryPopup;
 

@@ -270,6 +270,10 @@ DocumentView* frmMain::createView(const std::string& caption) {
     document->coreCalls = [this](const std::string& name) { ZVXCoreCalls(name); };
     document->onFolderPopup = [this](const QPoint& at) { folderMenu_->popup(at); };
     document->onEntryPopup = [this](const QPoint& at) { entryMenu_->popup(at); };
+    document->menuEnabled = [this](const std::string& key) {
+        QAction* entry = menuEntry(QString::fromStdString(key));
+        return entry && entry->isEnabled();
+    };
     document->onClose = [this, document] {
         if (Document* open = lifecycle_->find(document))
             lifecycle_->Close(*open);
