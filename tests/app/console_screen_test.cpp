@@ -38,10 +38,8 @@ TEST(ConsoleScreen, AConfiguredDuplicateAnswerIsTakenWithoutAsking) {
     EXPECT_EQ(screen.doubledetect({}), "delall");
     EXPECT_TRUE(err.str().empty());
 
-    EXPECT_EQ(DuplicateChoiceFor("keep-old"), "keepold");
     EXPECT_EQ(DuplicateChoiceFor("keep-all"), "keepall");
     EXPECT_EQ(DuplicateChoiceFor("overwrite"), "delold");
-    EXPECT_EQ(DuplicateChoiceFor("delold"), "delold");
     EXPECT_EQ(DuplicateChoiceFor("yes"), "");
 }
 

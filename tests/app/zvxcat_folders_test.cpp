@@ -43,8 +43,6 @@ TEST(ZvxcatFolders, MkdirRefusesLikeTheWindow) {
     };
     EXPECT_EQ(refusal({"mkdir", "c.zvx", "MUSIC"}),
               "Error: The Folder \"MUSIC\" does already exist!");
-    EXPECT_EQ(refusal({"mkdir", "c.zvx", "Music/a*b"}),
-              "Error: The Character \"*\" is not allowed in the Folder-name!");
     EXPECT_EQ(refusal({"mkdir", "c.zvx", "x", "--icon", "2"}), "Error: Please select an Icon!");
     EXPECT_EQ(refusal({"mkdir", "c.zvx", "Art/Modern"}),
               "zvxcat: no folder 'Art' in " + (box / "c.zvx").string());

@@ -18,16 +18,6 @@ TEST(ZvxcatSettings, RoundTripTellsNumbersFromTexts) {
     EXPECT_EQ(box.run({"settings", "get", "absent"}).out, "text\t\n");
 }
 
-TEST(ZvxcatSettings, EmptyValueReadsAsUnsetAndUnknownLinesStay) {
-    ToolSandbox box;
-    std::filesystem::create_directories(box.appFolder());
-    WriteAll(box.appFolder() / "zvx.ini", "just a line\r\nKEY=\r\nOTHER=1\r\n");
-    EXPECT_EQ(box.run({"settings", "get", "key", "fallback"}).out, "text\tfallback\n");
-    EXPECT_EQ(box.run({"settings", "set", "key", "v"}).status, 0);
-    EXPECT_EQ(box.run({"settings", "set", "new", "n"}).status, 0);
-    EXPECT_EQ(ReadAll(box.appFolder() / "zvx.ini"), "just a line\r\nKEY=v\r\nOTHER=1\r\nNEW=n\r\n");
-}
-
 TEST(ZvxcatSettings, RefusesWhatTheFileCannotHold) {
     ToolSandbox box;
     EXPECT_EQ(box.run({"settings", "set", "K", "two\nlines"}).status, 2);

@@ -48,15 +48,10 @@ class VolumeLabel : public ::testing::Test {
     fs::path byLabel = folder / "by-label";
 };
 
-TEST_F(VolumeLabel, TheLabelIsTheDecodedNameOfTheMountedDevice) {
+TEST_F(VolumeLabel, TheDecodedLabelOfTheDeviceIsKeptUntilCleared) {
     VolumeLabels labels(mountinfo, byLabel);
     test::WriteAll(folder / "song.mp3", "x");
     EXPECT_EQ(labels.labelOf(folder / "song.mp3"), "My Music/Rock");
-}
-
-TEST_F(VolumeLabel, LabelsAreKeptPerDeviceUntilCleared) {
-    VolumeLabels labels(mountinfo, byLabel);
-    EXPECT_EQ(labels.labelOf(folder.path()), "My Music/Rock");
     writeTable("0:1");
     EXPECT_EQ(labels.labelOf(folder.path()), "My Music/Rock");
     labels.clear();

@@ -19,7 +19,7 @@ std::vector<std::string> Listing(const std::filesystem::path& file, const std::s
     return lines;
 }
 
-TEST(AppendEntry, AppendsOneLineAndLeavesHeaderAndTocAlone) {
+TEST(AppendEntry, AppendsOneLineInTheCaseModeAndLeavesHeaderAndTocAlone) {
     test::TestEnvironment env;
     auto file = env.folder / "doc.zvx";
     test::WriteAll(file, test::CatalogueBytes({{"Music\\", "", 10, "00000000"}}, {}));
@@ -34,27 +34,20 @@ TEST(AppendEntry, AppendsOneLineAndLeavesHeaderAndTocAlone) {
     EXPECT_EQ(env.changedCalls, 1);
     const std::string after = test::ReadAll(file);
     EXPECT_EQ(after.substr(0, before.size()), before);
-    ASSERT_EQ(Listing(file, "00000000").size(), 1u);
-    EntryFields f = SplitEntryLine(Listing(file, "00000000")[0]);
+    EXPECT_EQ(after.substr(after.size() - 2), "\r\n");
+    EntryFields f = SplitEntryLine(Listing(file, "00000000").at(0));
     EXPECT_EQ(f[9], "The Best Of_Rock");  // "_" splits words in new entries
     EXPECT_EQ(f[12], "rock");             // the genre and style keep their case
     EXPECT_EQ(f[14], "soft rock");
     EXPECT_EQ(f[15], "05");
-    EXPECT_EQ(after.substr(after.size() - 2), "\r\n");
-}
 
-TEST(AppendEntry, CaseModeZeroLeavesTextsUntouched) {
-    test::TestEnvironment env;
-    auto file = env.folder / "doc.zvx";
-    CreateCatalogue(env.common, file);
     env.common.settings.caseMode = 0;
     env.common.settings.renumberingLevel = 3;
-    EntryValues v;
-    v.artist = "mIxEd";
+    v.title = "mIxEd";
     v.track = "12";
-    AppendEntry(env.common, file, "00000000", "c:\\a.mp3", v, false, false);
-    EntryFields f = SplitEntryLine(Listing(file, "00000000").at(0));
-    EXPECT_EQ(f[10], "mIxEd");
+    AppendEntry(env.common, file, "00000000", "c:\\b.mp3", v, false, false);
+    f = SplitEntryLine(Listing(file, "00000000").at(1));
+    EXPECT_EQ(f[9], "mIxEd");
     EXPECT_EQ(f[15], "0012");
 }
 

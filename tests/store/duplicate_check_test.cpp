@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "store/append_entry.h"
 #include "support/catalogue_bytes.h"
 #include "support/temp_folder.h"
 
@@ -82,17 +81,6 @@ TEST_F(DuplicateCheck, TheSeenCopyIsStruckOutSilently) {
     EXPECT_TRUE(CheckDuplicate(env.common, decheck, added));
     EXPECT_EQ(test::ReadAll(decheck), test::CatalogueBytes({}, {old}));  // only the first hit
     EXPECT_TRUE(env.screen.shown.empty());
-}
-
-TEST_F(DuplicateCheck, AppendEntryWithTheCheckHonoursTheAnswer) {
-    env.common.settings.caseMode = 0;
-    EntryValues v;
-    v.driveId = "CD1";
-    env.screen.answerDuplicate(kKeepOld);
-    EXPECT_FALSE(AppendEntry(env.common, file, "00000001", "c:\\m\\a.mp3", v, false, true));
-    EXPECT_EQ(test::ReadAll(file), original);
-    EXPECT_TRUE(AppendEntry(env.common, file, "00000001", "c:\\m\\a.mp3", v, false, false));
-    EXPECT_GT(test::ReadAll(file).size(), original.size());
 }
 
 }  // namespace

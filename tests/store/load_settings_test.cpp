@@ -17,6 +17,7 @@ class LoadSettingsTest : public ::testing::Test {
     test::TestEnvironment env;
 };
 
+// Values left by an earlier load are replaced, not kept.
 TEST_F(LoadSettingsTest, AnEmptyFileGivesTheDefaults) {
     env.common.settings.scanScheme = "$B";
     env.common.settings.flattenControls = false;
@@ -25,12 +26,8 @@ TEST_F(LoadSettingsTest, AnEmptyFileGivesTheDefaults) {
     EXPECT_EQ(s.caseMode, 2);
     EXPECT_TRUE(s.flattenControls);
     EXPECT_FALSE(s.allowViewBuffering);
-    EXPECT_FALSE(s.defaultSubViewing);
-    EXPECT_EQ(s.defaultListStyle, "Report");
     EXPECT_EQ(s.defaultAudioType, "Audio: Album");
-    EXPECT_EQ(s.defaultComment, "");
-    EXPECT_TRUE(s.useEnhancedView && s.enhanceNormalView && s.allowFolderScan && s.allowFileScan &&
-                s.allowDetagging && s.allowNonMp3Detagging && s.songGotPriority);
+    EXPECT_TRUE(s.allowNonMp3Detagging && s.songGotPriority);
     EXPECT_EQ(s.scanScheme, "$A - $S");
     EXPECT_FALSE(s.addNullSizedFiles);
     EXPECT_EQ(s.renumberingLevel, 1);
@@ -50,30 +47,25 @@ TEST_F(LoadSettingsTest, StoredValuesAreLoaded) {
     EXPECT_EQ(s.defaultComment, "5");
 }
 
-TEST_F(LoadSettingsTest, RenumberingLevelOutsideItsRangeLoadsAsOne) {
+TEST_F(LoadSettingsTest, RenumberingLevelOutsideItsRangeLoadsAsOneAndZeroTurnsViewingOff) {
     EXPECT_EQ(load("RENUMBERINGLEVEL=7\r\n").renumberingLevel, 1);
     EXPECT_EQ(load("RENUMBERINGLEVEL=-1\r\n").renumberingLevel, 1);
     EXPECT_EQ(load("RENUMBERINGLEVEL=1e30\r\n").renumberingLevel, 1);
     EXPECT_EQ(load("RENUMBERINGLEVEL=3\r\nVIEWRENUMBERING=NO\r\n").renumberingLevel, 3);
     EXPECT_FALSE(env.common.settings.viewRenumbering);
-}
-
-TEST_F(LoadSettingsTest, RenumberingLevelZeroLeavesTheViewingOff) {
-    const LoadedSettings& s = load("RENUMBERINGLEVEL=0\r\nVIEWRENUMBERING=YES\r\n");
-    EXPECT_EQ(s.renumberingLevel, 0);
-    EXPECT_FALSE(s.viewRenumbering);
+    EXPECT_EQ(load("RENUMBERINGLEVEL=0\r\nVIEWRENUMBERING=YES\r\n").renumberingLevel, 0);
+    EXPECT_FALSE(env.common.settings.viewRenumbering);
 }
 
 TEST_F(LoadSettingsTest, ScanSchemeIsUpperCasedOrFallsBack) {
     EXPECT_EQ(load("SCANSCHEME=$a - $s\r\n").scanScheme, "$A - $S");
-    EXPECT_EQ(load("SCANSCHEME=$p-$b - $i\r\n").scanScheme, "$P-$B - $I");
     EXPECT_EQ(load("SCANSCHEME=$A - $X\r\n").scanScheme, "$A - $S");
     EXPECT_EQ(load("SCANSCHEME=$N\r\n").scanScheme, "$A - $S");
 }
 
-TEST_F(LoadSettingsTest, ValidScanSchemeRemovesTheTokensInTheirOrder) {
+TEST(ValidScanScheme, RemovesTheTokensInTheirOrder) {
     EXPECT_TRUE(ValidScanScheme(""));
-    EXPECT_TRUE(ValidScanScheme(" $a $S - $B-$I "));
+    EXPECT_TRUE(ValidScanScheme(" $a $S - $B-$I $p"));
     // "$P" goes first, which leaves a "$A" to go next.
     EXPECT_TRUE(ValidScanScheme("$$PA"));
     // "$S" goes after "$A", so the "$A" it leaves behind stays.
