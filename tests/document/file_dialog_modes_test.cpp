@@ -17,23 +17,19 @@ TEST(FileDialogModes, ModesDifferInStartFolderFiltersAndKind) {
     };
 
     FileDialogRequest load = request("load");
-    EXPECT_EQ(load.title, "ZVX-Explorer - Load ZVX...");
     EXPECT_EQ(load.startFolder, "/caller");
     EXPECT_TRUE(load.readOnlyBox && !load.save && !load.multiSelect);
     EXPECT_EQ(request("import").startFolder, "/loads");
     EXPECT_EQ(request("import").filters, load.filters);
 
     FileDialogRequest save = request("save");
-    EXPECT_EQ(save.actionButton, "Save");
     EXPECT_EQ(save.startFolder, "/caller");
     EXPECT_EQ(save.fileName, "Document 1.zvx");
     EXPECT_EQ(save.filters.at(save.preselectedFilter - 1).second, "*.zvx");
     EXPECT_TRUE(save.save && !save.readOnlyBox);
     EXPECT_EQ(request("export").startFolder, "/saves");
-    EXPECT_EQ(request("export").title, "ZVX-Explorer - Export ZVX...");
 
     FileDialogRequest add = request("add");
-    EXPECT_EQ(add.title, "ZVX-Explorer - Add File(s)...");
     EXPECT_EQ(add.startFolder, "/adds");
     EXPECT_EQ(add.filters.at(1).first, "MP3-Audio-Files (*.mp3)");
     EXPECT_TRUE(add.multiSelect && add.readOnlyBox);

@@ -14,8 +14,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using Calls = std::vector<std::pair<long long, long long>>;
+
 TEST(Cleanup, RemovesWorkingCopiesThenTemporaryFilesAndNothingElse) {
     test::TestEnvironment env;
+    Calls calls;
+    auto record = [&](long long done, long long total) { calls.emplace_back(done, total); };
+    RemoveTemporaryFiles(env.common, record);
+    EXPECT_EQ(calls, (Calls{{0, 0}}));  // an empty folder: nothing to do
+
     for (const char* name : {"Document 1.tmp", "ZVXOPEN.TMP", "a.zvd", "B.ZvD"})
         test::WriteAll(env.folder / name, "x");
     for (const char* name : {"zvx.ini", "notes.txt", "a.tmpx", "tmp", kInstanceLockFile})
@@ -24,10 +31,10 @@ TEST(Cleanup, RemovesWorkingCopiesThenTemporaryFilesAndNothingElse) {
     fs::create_directory(env.folder / "CONFIG");
     test::WriteAll(env.folder / "CONFIG" / "inside.tmp", "keep");
 
-    std::vector<std::pair<long long, long long>> calls;
+    calls.clear();
     bool workingCopiesFirst = true;
     RemoveTemporaryFiles(env.common, [&](long long done, long long total) {
-        calls.emplace_back(done, total);
+        record(done, total);
         if (done == 2) {
             workingCopiesFirst = !fs::exists(env.folder / "a.zvd") &&
                                  !fs::exists(env.folder / "B.ZvD") &&
@@ -35,9 +42,7 @@ TEST(Cleanup, RemovesWorkingCopiesThenTemporaryFilesAndNothingElse) {
         }
     });
 
-    std::vector<std::pair<long long, long long>> expected = {
-        {0, 4}, {1, 4}, {2, 4}, {3, 4}, {4, 4}};
-    EXPECT_EQ(calls, expected);
+    EXPECT_EQ(calls, (Calls{{0, 4}, {1, 4}, {2, 4}, {3, 4}, {4, 4}}));
     EXPECT_TRUE(workingCopiesFirst);
     std::vector<std::string> left;
     for (const fs::directory_entry& entry : fs::directory_iterator(env.folder.path()))
@@ -47,15 +52,6 @@ TEST(Cleanup, RemovesWorkingCopiesThenTemporaryFilesAndNothingElse) {
                                      "tmp",    "zvx.ini", "zvx.lock"};
     EXPECT_EQ(left, kept);
     EXPECT_TRUE(fs::exists(env.folder / "CONFIG" / "inside.tmp"));
-}
-
-TEST(Cleanup, AnEmptyFolderReportsNothingToDo) {
-    test::TestEnvironment env;
-    std::vector<std::pair<long long, long long>> calls;
-    RemoveTemporaryFiles(env.common,
-                         [&](long long done, long long total) { calls.emplace_back(done, total); });
-    std::vector<std::pair<long long, long long>> expected = {{0, 0}};
-    EXPECT_EQ(calls, expected);
 }
 
 }  // namespace

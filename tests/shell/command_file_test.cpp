@@ -66,7 +66,7 @@ TEST_F(HandOver, ARepeatedPathLoadsOnceUnlessAnotherCameBetween) {
     EXPECT_EQ(running.loaded, (std::vector<std::string>{a, b, a}));
 }
 
-TEST_F(HandOver, AMissingDocumentIsDroppedAndAnEmptyFileMeansNothing) {
+TEST_F(HandOver, PathsNamingNoFileAreDroppedAndAnEmptyFileMeansNothing) {
     RunningInstance running(env.common);
     running.poll.tick();  // no command file
     EXPECT_TRUE(HandOverDocument(env.common, (env.folder / "gone.zvx").string()));
@@ -76,13 +76,11 @@ TEST_F(HandOver, AMissingDocumentIsDroppedAndAnEmptyFileMeansNothing) {
     EXPECT_TRUE(running.loaded.empty());
     EXPECT_TRUE(env.screen.statuses.empty());
     EXPECT_TRUE(env.screen.shown.empty());
-}
 
-TEST_F(HandOver, LinesNamingNoFileAreSkippedByThePoll) {
+    // The poll skips empty lines, missing files and folders.
     const std::string a = Document("a.zvx");
     test::WriteAll(commandFile(), "\r\n" + (env.folder / "gone.zvx").string() + "\r\n" + a +
                                       "\r\n" + env.folder.path().string() + "\r\n");
-    RunningInstance running(env.common);
     running.poll.tick();
     EXPECT_EQ(running.loaded, (std::vector<std::string>{a}));
     EXPECT_FALSE(std::filesystem::exists(commandFile()));

@@ -55,19 +55,6 @@ TEST(PrepareConfigFiles, IgnoresAFolderThatCannotBeMade) {
     EXPECT_TRUE(std::filesystem::is_directory(env.folder / "PLUGINS"));
 }
 
-TEST(ColumnSettingFile, ReadsTheShippedLayoutBack) {
-    test::TestEnvironment env;
-    PrepareConfigFiles(env.common);
-    ColumnSetting setting = ReadColumnSetting(ColumnSettingFile(env.common, "audio-short"));
-    EXPECT_EQ(setting.SortKey, 0);
-    EXPECT_EQ(setting.SortOrder, 0);
-    ASSERT_EQ(setting.columns.size(), 22u);
-    EXPECT_EQ(setting.columns[1].column, 10);
-    EXPECT_EQ(setting.columns[1].width, 200);
-    EXPECT_EQ(setting.columns[21].column, 22);
-    EXPECT_EQ(setting.columns[21].width, 0);
-}
-
 TEST(ColumnSettingFile, ToleratesAShortFileAndNonNumericLines) {
     test::TempFolder temp;
     // LF lines read as well as CR LF ones.

@@ -4,7 +4,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "shell/file_pattern.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
@@ -40,11 +39,6 @@ TEST(InstanceLock, ASecondInstanceInTheSameFolderSeesTheFirst) {
     }
     // The lock ends with its holder; the lock file left behind blocks nobody.
     EXPECT_TRUE(AcquiredByAnotherProcess(temp.path()));
-}
-
-TEST(InstanceLock, TheLockFileSurvivesTheCleanUp) {
-    EXPECT_FALSE(MatchesFilePattern(kInstanceLockFile, "*.tmp"));
-    EXPECT_FALSE(MatchesFilePattern(kInstanceLockFile, "*.zvd"));
 }
 
 TEST(InstanceLock, AnUnwritableFolderDoesNotStopTheStart) {

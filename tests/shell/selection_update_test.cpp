@@ -30,23 +30,21 @@ TEST(SelectionUpdate, EmptyListWithoutFolders) {
     EXPECT_EQ(update.menus.front(), (MenuInstruction{"foldermnuTOP", true}));
 }
 
-TEST(SelectionUpdate, SelectedRowEnablesEntryCommands) {
+TEST(SelectionUpdate, ASelectedRowEnablesEntryCommandsAndRowsAloneOnlySelectNamed) {
     const SelectionUpdate update = selecTionIzer({true, true, false, false}, false, false);
     EXPECT_EQ(update.state[1], "e");
     const auto menus = Applied(update);
     for (const char* key : {"selectmnu0", "selectmnu1", "selectmnu2", "editmnu0", "editmnu1",
                             "foldermnu7", "copymovemnu0", "copymovemnu1"})
         EXPECT_TRUE(menus.at(key)) << key;
-}
 
-TEST(SelectionUpdate, RowsWithoutSelectionKeepSelectNamed) {
-    const SelectionUpdate update = selecTionIzer({true, false, false, false}, false, false);
-    EXPECT_EQ(update.state[1], "0");
-    const auto menus = Applied(update);
-    EXPECT_FALSE(menus.at("editmnu0"));
-    EXPECT_FALSE(menus.at("copymovemnu1"));
-    EXPECT_TRUE(menus.at("editmnu1"));
-    EXPECT_TRUE(menus.at("selectmnu1"));
+    const SelectionUpdate unselected = selecTionIzer({true, false, false, false}, false, false);
+    EXPECT_EQ(unselected.state[1], "0");
+    const auto rowsOnly = Applied(unselected);
+    EXPECT_FALSE(rowsOnly.at("editmnu0"));
+    EXPECT_FALSE(rowsOnly.at("copymovemnu1"));
+    EXPECT_TRUE(rowsOnly.at("editmnu1"));
+    EXPECT_TRUE(rowsOnly.at("selectmnu1"));
 }
 
 TEST(SelectionUpdate, FoldersAndTheSelectedFolder) {

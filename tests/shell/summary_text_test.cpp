@@ -15,7 +15,7 @@ TEST(SizeText, BytesThenUnitsWithTwoDecimalsCut) {
     EXPECT_EQ(SizeText(1024.0 * 1024 * 1024 * 5), "5 GB");
 }
 
-TEST(Summarize, CountsEntriesAndSizes) {
+TEST(Summarize, CountsEntriesAndTheSizeOfTheSelectedOnes) {
     SelectionTotals one;
     one.add("1000", false);
     EXPECT_EQ(summarize(one), "1 entry (1000 B)");
@@ -27,9 +27,7 @@ TEST(Summarize, CountsEntriesAndSizes) {
     noSizes.add("", false);
     noSizes.add("abc", false);
     EXPECT_EQ(summarize(noSizes), "2 entries");
-}
 
-TEST(Summarize, SelectedRowsAndTheirSize) {
     SelectionTotals totals;
     totals.add("2048", true);
     totals.add("100000", false);

@@ -7,14 +7,11 @@
 namespace zvx {
 namespace {
 
-TEST(TextCase, Utf8TextIsCasedByCharacter) {
+TEST(TextCase, Utf8TextIsCasedByCharacterAndOtherTextAsWindows1252) {
     EXPECT_EQ(UpperCase("abc é ÿ š œ ž ß"), "ABC É Ÿ Š Œ Ž ß");
     EXPECT_EQ(LowerCase("ÀÉÎ Ÿ Š"), "àéî ÿ š");
     EXPECT_EQ(UpperCase("× ÷ 東京"), "× ÷ 東京");  // no case, left alone
-}
-
-TEST(TextCase, OtherTextIsWindows1252) {
-    // "café" and "ÿš" in Windows-1252 bytes: not valid UTF-8.
+    // Other text is Windows-1252: "café" and "ÿš" in its bytes are not valid UTF-8.
     EXPECT_EQ(UpperCase("caf\xE9"), "CAF\xC9");
     EXPECT_EQ(UpperCase("\xFF\x9A\x9C\x9E"), "\x9F\x8A\x8C\x8E");
     EXPECT_EQ(LowerCase("\x9F\x8A\xC0"), "\xFF\x9A\xE0");
