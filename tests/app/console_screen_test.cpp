@@ -34,7 +34,7 @@ TEST(ConsoleScreen, WithoutATerminalQuestionsTakeTheSafeChoice) {
 TEST(ConsoleScreen, AConfiguredDuplicateAnswerIsTakenWithoutAsking) {
     std::istringstream in;
     std::ostringstream err;
-    ConsoleScreen screen({DuplicateChoiceFor("overwrite-all")}, in, err, false, false);
+    ConsoleScreen screen({DuplicateChoiceFor("overwrite-all"), ""}, in, err, false, false);
     EXPECT_EQ(screen.doubledetect({}), "delall");
     EXPECT_TRUE(err.str().empty());
 
