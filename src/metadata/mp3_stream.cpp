@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <system_error>
 
 #include "platform/file_error.h"
 #include "platform/media_file.h"
@@ -106,12 +105,6 @@ int BitsToNumber(std::span<const bool> bits) {
             number |= 1 << i;
     }
     return number;
-}
-
-bool MP3FileExists(const std::filesystem::path& file) {
-    std::error_code ec;
-    static_cast<void>(std::filesystem::file_size(file, ec));
-    return !ec;
 }
 
 std::optional<std::string> AnalyseMP3Stream(Common& common, const std::filesystem::path& file) {

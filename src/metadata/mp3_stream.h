@@ -23,9 +23,6 @@ std::array<bool, 32> MP3HeaderBits(std::array<unsigned char, 4> bytes);
 // range of a 16-bit Integer.
 int BitsToNumber(std::span<const bool> bits);
 
-// True when the file's length can be read.
-bool MP3FileExists(const std::filesystem::path& file);
-
 // Sets the stream values and returns the summary, such as "MPEG 1 Layer 3 Bitrate: 128
 // Freq: 44100 Mode: Dual Channel Length: 5:00":
 // - MPEG 1 when bit 8 is set, else MPEG 2; the layer is always 3;

@@ -18,7 +18,7 @@ class MediaFile {
     MediaFile& operator=(MediaFile&& other) noexcept;
 
     const std::filesystem::path& path() const { return path_; }
-    // Whether asking for the file's length succeeded.
+    // Whether asking for the file's length succeeded (MP3FileExists).
     bool exists() const { return exists_; }
     uint64_t size() const { return size_; }
     // Up to `count` bytes from the 0-based `offset`, fewer at the end of the file.

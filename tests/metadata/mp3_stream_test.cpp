@@ -115,9 +115,7 @@ TEST(AnalyseMP3Stream, AFileOfFourBytesTakesTheFailurePath) {
     EXPECT_EQ(stream.StreamFrequency, "0");
 
     const auto gone = env.folder / "gone.mp3";
-    EXPECT_FALSE(MP3FileExists(gone));
     EXPECT_EQ(AnalyseMP3Stream(env.common, gone), std::nullopt);
-    EXPECT_TRUE(MP3FileExists(env.folder / "a.mp3"));
 }
 
 }  // namespace
