@@ -14,10 +14,10 @@
 #include <vector>
 
 #include "catalogue_generator.h"
+#include "common/common.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
 #include "quiet_screen.h"
-#include "shell/common.h"
 #include "store/append_entry.h"
 #include "store/duplicate_check.h"
 #include "store/duplicate_index.h"

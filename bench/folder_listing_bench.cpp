@@ -8,10 +8,10 @@
 #include <string_view>
 
 #include "catalogue_generator.h"
+#include "common/common.h"
 #include "document/show_entries.h"
 #include "platform/file_io.h"
 #include "quiet_screen.h"
-#include "shell/common.h"
 #include "store/entry_line.h"
 #include "store/folder_listing.h"
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
+#include "common/common.h"
 #include "document/show_entries.h"
 #include "quiet_screen.h"
-#include "shell/common.h"
 #include "store/folder_listing.h"
 #include "store/toc.h"
 

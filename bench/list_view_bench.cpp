@@ -8,8 +8,8 @@
 #include <cstdlib>
 #include <string>
 
+#include "common/loaded_settings.h"
 #include "document/entry_list_model.h"
-#include "shell/loaded_settings.h"
 #include "store/entry_line.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "shell/screen.h"
+#include "common/screen.h"
 
 namespace zvx::bench {
 

@@ -27,8 +27,8 @@
 #include <vector>
 
 #include "adding/tree_adding.h"
+#include "common/common.h"
 #include "quiet_screen.h"
-#include "shell/common.h"
 #include "store/catalogue_info.h"
 #include "store/new_catalogue.h"
 #include "tree_generator.h"

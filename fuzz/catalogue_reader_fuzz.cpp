@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "common/common.h"
 #include "document/folder_caption.h"
 #include "document/folder_tree.h"
 #include "fuzz_check.h"
@@ -17,7 +18,6 @@
 #include "platform/file_error.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
 #include "silent_screen.h"
 #include "store/catalogue_format.h"
 #include "store/catalogue_info.h"

@@ -9,13 +9,13 @@
 #include <string>
 #include <string_view>
 
+#include "common/common.h"
 #include "fuzz_check.h"
 #include "fuzz_folder.h"
 #include "metadata/id3_tag.h"
 #include "metadata/mp3_stream.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
-#include "shell/common.h"
 #include "silent_screen.h"
 
 namespace {

@@ -7,12 +7,12 @@
 #include <string>
 #include <string_view>
 
+#include "common/app_files.h"
+#include "common/common.h"
 #include "fuzz_check.h"
 #include "fuzz_folder.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
-#include "shell/app_files.h"
-#include "shell/common.h"
 #include "silent_screen.h"
 #include "store/load_settings.h"
 #include "store/settings.h"

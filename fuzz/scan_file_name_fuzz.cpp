@@ -10,12 +10,12 @@
 #include <string>
 #include <string_view>
 
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/numeric_value.h"
 #include "fuzz_check.h"
 #include "fuzz_folder.h"
 #include "metadata/scan_file_name.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/numeric_value.h"
 #include "silent_screen.h"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "shell/screen.h"
+#include "common/screen.h"
 #include "store/duplicate_check.h"
 
 namespace zvx::fuzz {

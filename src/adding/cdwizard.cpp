@@ -15,12 +15,12 @@
 
 #include "adding/cdwizard_rules.h"
 #include "adding/tree_adding.h"
+#include "common/common.h"
 #include "document/folder_icon_table.h"
 #include "document/folder_tree.h"
 #include "document/frmDocument.h"
 #include "platform/directory_walk.h"
 #include "platform/file_error.h"
-#include "shell/common.h"
 #include "ui/folder_icons.h"
 #include "ui/text_codec.h"
 

@@ -1,6 +1,6 @@
 #include "adding/cdwizard_rules.h"
 
-#include "shell/field_text.h"
+#include "common/field_text.h"
 
 namespace zvx {
 

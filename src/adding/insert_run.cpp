@@ -1,7 +1,7 @@
 #include "adding/insert_run.h"
 
+#include "common/common.h"
 #include "metadata/add_file_entry.h"
-#include "shell/common.h"
 #include "store/duplicate_index.h"
 
 namespace zvx {
@@ -12,7 +12,7 @@ void InsertRun(Common& common, const std::filesystem::path& cfn, std::string_vie
         return;
     common.AbortAdding = false;
     common.DuplicateChoice.clear();
-    common.volumeLabels.clear();
+    common.volumeLabels.reset();
     common.setProgressMax(static_cast<long long>(rows.size()) + 1);
     common.setProgress(0);
     common.screen().status("Adding Entries To ZVX...");

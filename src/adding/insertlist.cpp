@@ -13,9 +13,9 @@
 #include <QVBoxLayout>
 
 #include "adding/insert_run.h"
+#include "common/common.h"
+#include "common/file_dialog_modes.h"
 #include "document/frmDocument.h"
-#include "shell/common.h"
-#include "shell/file_dialog_modes.h"
 #include "ui/text_codec.h"
 
 namespace zvx {

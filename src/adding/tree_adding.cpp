@@ -3,15 +3,15 @@
 #include <unordered_map>
 #include <vector>
 
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/text_case.h"
 #include "metadata/add_file_entry.h"
 #include "metadata/file_error_dialog.h"
 #include "platform/catalogue_path.h"
 #include "platform/directory_walk.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/text_case.h"
 #include "store/duplicate_index.h"
 #include "store/folder_id.h"
 #include "store/toc.h"
@@ -157,7 +157,7 @@ void TreeWalk::AddDirectory(const std::string& path) {
 void TreeWalk::run() {
     status("Tree-Adding in progress (cashing used Folder IDs)...");
     common_.DuplicateChoice.clear();
-    common_.volumeLabels.clear();
+    common_.volumeLabels.reset();
     folderIsNew_ = false;
     ScanHighestFolderID(common_, cfn_);
     LoadFolderCache();

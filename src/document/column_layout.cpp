@@ -4,12 +4,12 @@
 #include <numeric>
 #include <system_error>
 
+#include "common/app_files.h"
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/file_pattern.h"
+#include "common/text_case.h"
 #include "platform/file_io.h"
-#include "shell/app_files.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/file_pattern.h"
-#include "shell/text_case.h"
 #include "store/settings.h"
 
 namespace zvx {

@@ -1,6 +1,6 @@
+#include "common/common.h"
 #include "document/folder_existence.h"
 #include "document/folder_operations.h"
-#include "shell/common.h"
 #include "store/catalogue_rewrite.h"
 #include "store/folder_id.h"
 #include "store/toc.h"

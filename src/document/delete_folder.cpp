@@ -1,11 +1,11 @@
 #include <unordered_set>
 
+#include "common/common.h"
+#include "common/text_case.h"
 #include "document/folder_operations.h"
 #include "document/progress_steps.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
-#include "shell/text_case.h"
 #include "store/catalogue_format.h"
 #include "store/entry_offset.h"
 #include "store/temp_file.h"

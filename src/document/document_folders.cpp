@@ -2,13 +2,13 @@
 
 #include <QTreeWidget>
 
+#include "common/common.h"
 #include "document/folder_navigation.h"
 #include "document/folder_operations.h"
 #include "document/folder_tree_widget.h"
 #include "document/folderprops.h"
 #include "document/frmDocument.h"
 #include "document/moving.h"
-#include "shell/common.h"
 
 namespace zvx {
 

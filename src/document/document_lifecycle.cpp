@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "common/common.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
-#include "shell/common.h"
 
 namespace zvx {
 

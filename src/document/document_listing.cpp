@@ -10,13 +10,13 @@
 #include <QTreeView>
 #include <QTreeWidget>
 
+#include "common/common.h"
+#include "common/summary_text.h"
 #include "document/column_layout.h"
 #include "document/entry_list_model.h"
 #include "document/frmDocument.h"
 #include "document/list_appearance.h"
 #include "platform/file_error.h"
-#include "shell/common.h"
-#include "shell/summary_text.h"
 #include "ui/main_background.h"
 
 namespace zvx {

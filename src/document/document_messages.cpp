@@ -1,6 +1,6 @@
 #include "document/document_messages.h"
 
-#include "shell/common.h"
+#include "common/common.h"
 
 namespace zvx {
 

@@ -1,6 +1,6 @@
 #include "document/document_path.h"
 
-#include "shell/text_case.h"
+#include "common/text_case.h"
 
 namespace zvx {
 

@@ -1,7 +1,7 @@
 #include "document/entry_list_model.h"
 
+#include "common/loaded_settings.h"
 #include "document/column_layout.h"
-#include "shell/loaded_settings.h"
 #include "ui/content_icons.h"
 #include "ui/text_codec.h"
 

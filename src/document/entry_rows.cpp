@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "common/numeric_value.h"
 #include "metadata/content_icon.h"
-#include "shell/numeric_value.h"
 #include "store/catalogue_format.h"
 #include "store/track_format.h"
 

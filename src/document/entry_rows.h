@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/loaded_settings.h"
+#include "common/loaded_settings.h"
 
 namespace zvx {
 

@@ -1,9 +1,9 @@
 #include "document/folder_dialog_rules.h"
 
+#include "common/common.h"
+#include "common/field_text.h"
 #include "document/folder_icon_table.h"
 #include "document/folder_refresh.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
 #include "store/settings.h"
 
 namespace zvx {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "shell/common.h"
-#include "shell/text_case.h"
+#include "common/common.h"
+#include "common/text_case.h"
 
 namespace zvx {
 

@@ -1,13 +1,13 @@
 #include <algorithm>
 #include <optional>
 
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/text_case.h"
 #include "document/folder_existence.h"
 #include "document/folder_operations.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/text_case.h"
 #include "store/catalogue_format.h"
 #include "store/entry_offset.h"
 #include "store/temp_file.h"

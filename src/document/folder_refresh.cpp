@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "common/common.h"
 #include "document/progress_steps.h"
-#include "shell/common.h"
 
 namespace zvx {
 

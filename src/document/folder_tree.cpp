@@ -4,7 +4,7 @@
 #include <tuple>
 #include <unordered_set>
 
-#include "shell/field_text.h"
+#include "common/field_text.h"
 #include "store/catalogue_format.h"
 
 namespace zvx {

@@ -16,6 +16,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "common/common.h"
+#include "common/summary_text.h"
 #include "document/column_layout.h"
 #include "document/entry_list_model.h"
 #include "document/folder_caption.h"
@@ -23,8 +25,6 @@
 #include "document/folder_refresh.h"
 #include "document/folder_tree_widget.h"
 #include "document/list_appearance.h"
-#include "shell/common.h"
-#include "shell/summary_text.h"
 #include "ui/icons.h"
 #include "ui/text_codec.h"
 

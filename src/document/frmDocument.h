@@ -12,8 +12,8 @@
 #include "document/document_view.h"
 #include "document/folder_tree.h"
 #include "document/list_sorting.h"
+#include "document/selection_facts.h"
 #include "document/show_entries.h"
-#include "shell/selection_update.h"
 
 class QLabel;
 class QListView;

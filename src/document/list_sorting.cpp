@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "common/text_case.h"
 #include "document/entry_rows.h"
-#include "shell/text_case.h"
 
 namespace zvx {
 

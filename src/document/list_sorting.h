@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "shell/loaded_settings.h"
+#include "common/loaded_settings.h"
 
 namespace zvx {
 

@@ -2,14 +2,14 @@
 
 #include <string>
 
+#include "common/common.h"
+#include "common/file_dialog_modes.h"
+#include "common/text_case.h"
 #include "document/document_lifecycle.h"
 #include "document/document_messages.h"
 #include "document/document_path.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
-#include "shell/common.h"
-#include "shell/file_dialog_modes.h"
-#include "shell/text_case.h"
 #include "store/catalogue_format.h"
 #include "store/entry_offset.h"
 #include "store/write_protection.h"

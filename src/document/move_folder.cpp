@@ -1,9 +1,9 @@
 #include <algorithm>
 
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/text_case.h"
 #include "document/folder_operations.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/text_case.h"
 #include "store/catalogue_rewrite.h"
 #include "store/toc.h"
 

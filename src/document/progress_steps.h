@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "shell/common.h"
+#include "common/common.h"
 
 namespace zvx {
 

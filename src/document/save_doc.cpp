@@ -5,13 +5,13 @@
 #include <filesystem>
 #include <string>
 
+#include "common/common.h"
+#include "common/file_dialog_modes.h"
 #include "document/document_lifecycle.h"
 #include "document/document_messages.h"
 #include "document/document_path.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
-#include "shell/common.h"
-#include "shell/file_dialog_modes.h"
 #include "store/write_protection.h"
 
 namespace zvx {

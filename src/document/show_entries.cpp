@@ -4,12 +4,12 @@
 #include <optional>
 #include <system_error>
 
+#include "common/common.h"
 #include "document/progress_steps.h"
 #include "document/sub_view.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
 #include "store/catalogue_format.h"
 #include "store/entry_offset.h"
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "common/app_files.h"
+#include "common/common.h"
 #include "platform/file_io.h"
-#include "shell/app_files.h"
-#include "shell/common.h"
 
 namespace zvx {
 

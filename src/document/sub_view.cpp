@@ -4,9 +4,9 @@
 #include <cstring>
 #include <string>
 
+#include "common/field_text.h"
+#include "common/text_case.h"
 #include "platform/line_reader.h"
-#include "shell/field_text.h"
-#include "shell/text_case.h"
 #include "store/catalogue_format.h"
 
 namespace zvx {

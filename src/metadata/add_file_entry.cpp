@@ -3,6 +3,8 @@
 #include <optional>
 #include <string>
 
+#include "common/common.h"
+#include "common/numeric_value.h"
 #include "metadata/content_types.h"
 #include "metadata/file_error_dialog.h"
 #include "metadata/genres.h"
@@ -12,8 +14,7 @@
 #include "platform/catalogue_path.h"
 #include "platform/file_facts.h"
 #include "platform/media_file.h"
-#include "shell/common.h"
-#include "shell/numeric_value.h"
+#include "platform/volume_label.h"
 #include "store/append_entry.h"
 #include "store/split_path.h"
 
@@ -123,7 +124,9 @@ void AddFileEntry(Common& common, const std::filesystem::path& cfn,
 
     EntryValues values = ComposeValues(common, EntryContentType(common, content.contentType));
     values.size = std::to_string(facts.size);
-    values.driveId = common.volumeLabels.labelOfDevice(facts.device);
+    if (!common.volumeLabels)
+        common.volumeLabels = std::make_shared<VolumeLabels>();
+    values.driveId = common.volumeLabels->labelOfDevice(facts.device);
     values.driveDescription = values.driveId;
     values.date = facts.date;
     RunFileStep(common, [&] {

@@ -1,6 +1,6 @@
 #include "metadata/case_mode.h"
 
-#include "shell/text_case.h"
+#include "common/text_case.h"
 
 namespace zvx {
 

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "shell/loaded_settings.h"
+#include "common/loaded_settings.h"
 
 namespace zvx {
 

@@ -2,12 +2,12 @@
 
 #include <exception>
 
+#include "common/common.h"
+#include "common/numeric_value.h"
+#include "common/text_case.h"
 #include "metadata/genres.h"
 #include "metadata/id3_tag.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
-#include "shell/numeric_value.h"
-#include "shell/text_case.h"
 
 namespace zvx {
 

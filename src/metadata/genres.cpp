@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "shell/numeric_value.h"
+#include "common/numeric_value.h"
 
 namespace zvx {
 

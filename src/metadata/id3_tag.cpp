@@ -7,13 +7,13 @@
 #include <string_view>
 #include <system_error>
 
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/numeric_value.h"
+#include "common/text_case.h"
 #include "metadata/genres.h"
 #include "platform/file_error.h"
 #include "platform/media_file.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/numeric_value.h"
-#include "shell/text_case.h"
 
 namespace zvx {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/numeric_value.h"
 #include "platform/file_error.h"
 #include "platform/media_file.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/numeric_value.h"
 
 namespace zvx {
 

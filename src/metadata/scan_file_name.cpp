@@ -4,10 +4,10 @@
 #include <limits>
 #include <vector>
 
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/numeric_value.h"
-#include "shell/text_case.h"
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/numeric_value.h"
+#include "common/text_case.h"
 #include "store/split_path.h"
 
 namespace zvx {

@@ -9,8 +9,8 @@
 #include <cstring>
 #include <memory>
 
+#include "common/file_pattern.h"
 #include "platform/file_error.h"
-#include "shell/file_pattern.h"
 
 namespace zvx {
 

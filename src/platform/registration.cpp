@@ -11,8 +11,8 @@
 #include <optional>
 #include <system_error>
 
-#include "shell/common.h"
-#include "shell/field_text.h"
+#include "common/common.h"
+#include "common/field_text.h"
 #include "store/catalogue_format.h"
 
 extern char** environ;

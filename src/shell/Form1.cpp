@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "shell/common.h"
+#include "common/common.h"
 #include "store/settings.h"
 #include "ui/icons.h"
 #include "ui/text_codec.h"

@@ -4,8 +4,8 @@
 #include <system_error>
 #include <vector>
 
-#include "shell/common.h"
-#include "shell/file_pattern.h"
+#include "common/common.h"
+#include "common/file_pattern.h"
 
 namespace zvx {
 

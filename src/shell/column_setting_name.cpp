@@ -1,7 +1,7 @@
 #include "shell/column_setting_name.h"
 
-#include "shell/common.h"
-#include "shell/field_text.h"
+#include "common/common.h"
+#include "common/field_text.h"
 
 namespace zvx {
 

@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <system_error>
 
+#include "common/common.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
 
 namespace zvx {
 

@@ -4,9 +4,9 @@
 #include <system_error>
 #include <utility>
 
+#include "common/app_files.h"
+#include "common/common.h"
 #include "platform/file_error.h"
-#include "shell/app_files.h"
-#include "shell/common.h"
 #include "store/column_setting_file.h"
 
 namespace zvx {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "shell/numeric_value.h"
+#include "common/numeric_value.h"
 
 namespace zvx {
 

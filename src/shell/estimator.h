@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "shell/clock.h"
+#include "common/clock.h"
 
 namespace zvx {
 

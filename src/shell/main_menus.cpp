@@ -6,10 +6,10 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include "common/common.h"
 #include "document/column_layout.h"
 #include "document/frmDocument.h"
 #include "document/list_appearance.h"
-#include "shell/common.h"
 #include "shell/frmMain.h"
 #include "shell/recent_list.h"
 #include "ui/icons.h"

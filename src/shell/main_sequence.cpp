@@ -4,14 +4,14 @@
 #include <filesystem>
 #include <system_error>
 
+#include "common/application_folder.h"
+#include "common/clock.h"
+#include "common/common.h"
 #include "platform/instance_lock.h"
 #include "platform/registration.h"
 #include "shell/Form1.h"
-#include "shell/application_folder.h"
-#include "shell/clock.h"
 #include "shell/command_file.h"
 #include "shell/command_line.h"
-#include "shell/common.h"
 #include "shell/config_files.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"

@@ -10,8 +10,8 @@
 #include <QToolBar>
 #include <climits>
 
+#include "common/common.h"
 #include "shell/command_file.h"
-#include "shell/common.h"
 #include "shell/frmMain.h"
 #include "ui/about.h"
 #include "ui/news_panel.h"

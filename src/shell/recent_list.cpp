@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/text_case.h"
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/text_case.h"
 #include "store/settings.h"
 
 namespace zvx {

@@ -6,17 +6,10 @@
 #include <string_view>
 #include <vector>
 
+#include "document/selection_facts.h"
 #include "shell/tool_bar.h"
 
 namespace zvx {
-
-// What the document's list and tree hold at the moment of the update.
-struct SelectionFacts {
-    bool hasRows = false;         // the list has at least one row
-    bool rowSelected = false;     // a row of the list is selected
-    bool hasFolders = false;      // the tree has folders
-    bool folderSelected = false;  // a folder of the tree is selected
-};
 
 // Enable or disable the main window's menu entry with this key. Keys of entries the
 // window does not have are skipped by the window.

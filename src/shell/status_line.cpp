@@ -1,6 +1,6 @@
 #include "shell/status_line.h"
 
-#include "shell/common.h"
+#include "common/common.h"
 
 namespace zvx {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/text_case.h"
+#include "common/text_case.h"
 
 namespace zvx {
 

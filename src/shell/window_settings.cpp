@@ -4,8 +4,8 @@
 #include <climits>
 #include <string>
 
-#include "shell/common.h"
-#include "shell/numeric_value.h"
+#include "common/common.h"
+#include "common/numeric_value.h"
 #include "shell/recent_list.h"
 #include "store/settings.h"
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "common/common.h"
 #include "metadata/case_mode.h"
 #include "platform/file_io.h"
-#include "shell/common.h"
 #include "store/duplicate_check.h"
 #include "store/duplicate_index.h"
 

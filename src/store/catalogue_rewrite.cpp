@@ -1,6 +1,6 @@
 #include "store/catalogue_rewrite.h"
 
-#include "shell/common.h"
+#include "common/common.h"
 #include "store/catalogue_format.h"
 #include "store/entry_offset.h"
 #include "store/temp_file.h"

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <climits>
 
+#include "common/app_files.h"
+#include "common/common.h"
+#include "common/numeric_value.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/app_files.h"
-#include "shell/common.h"
-#include "shell/numeric_value.h"
 
 namespace zvx {
 

@@ -1,7 +1,7 @@
 #include "store/date_normaliser.h"
 
-#include "shell/field_text.h"
-#include "shell/numeric_value.h"
+#include "common/field_text.h"
+#include "common/numeric_value.h"
 
 namespace zvx {
 

@@ -4,9 +4,9 @@
 #include <functional>
 #include <utility>
 
+#include "common/common.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
 #include "store/catalogue_format.h"
 #include "store/duplicate_check.h"
 #include "store/entry_line.h"

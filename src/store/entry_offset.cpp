@@ -2,9 +2,9 @@
 
 #include <string_view>
 
+#include "common/common.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
 #include "store/catalogue_format.h"
 
 namespace zvx {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <set>
 
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/numeric_value.h"
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/numeric_value.h"
 #include "store/catalogue_format.h"
 #include "store/toc.h"
 

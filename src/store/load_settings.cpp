@@ -3,10 +3,10 @@
 #include <climits>
 #include <string>
 
+#include "common/common.h"
+#include "common/numeric_value.h"
+#include "common/text_case.h"
 #include "metadata/scan_scheme.h"
-#include "shell/common.h"
-#include "shell/numeric_value.h"
-#include "shell/text_case.h"
 #include "store/settings.h"
 
 namespace zvx {

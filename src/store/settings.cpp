@@ -1,11 +1,11 @@
 #include "store/settings.h"
 
+#include "common/common.h"
+#include "common/field_text.h"
+#include "common/numeric_value.h"
+#include "common/text_case.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
-#include "shell/numeric_value.h"
-#include "shell/text_case.h"
 
 namespace zvx {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "common/common.h"
 #include "platform/file_io.h"
-#include "shell/common.h"
 #include "store/catalogue_format.h"
 
 namespace zvx {

@@ -1,7 +1,7 @@
 #include "store/toc.h"
 
+#include "common/field_text.h"
 #include "platform/line_reader.h"
-#include "shell/field_text.h"
 #include "store/catalogue_format.h"
 
 namespace zvx {

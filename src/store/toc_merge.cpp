@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "common/common.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
-#include "shell/common.h"
 #include "store/catalogue_format.h"
 #include "store/entry_offset.h"
 

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <string>
 
-#include "shell/field_text.h"
-#include "shell/numeric_value.h"
+#include "common/field_text.h"
+#include "common/numeric_value.h"
 
 namespace zvx {
 

@@ -3,8 +3,8 @@
 #include <cerrno>
 #include <system_error>
 
+#include "common/common.h"
 #include "platform/file_error.h"
-#include "shell/common.h"
 
 namespace zvx {
 

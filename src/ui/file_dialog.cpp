@@ -5,7 +5,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
-#include "shell/file_info.h"
+#include "ui/file_info.h"
 #include "ui/text_codec.h"
 
 namespace zvx {

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "shell/screen.h"
+#include "common/screen.h"
 
 class QWidget;
 

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "shell/screen.h"
+#include "common/screen.h"
 
 class QWidget;
 

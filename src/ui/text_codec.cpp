@@ -1,6 +1,6 @@
 #include "ui/text_codec.h"
 
-#include "shell/text_case.h"
+#include "common/text_case.h"
 
 namespace zvx {
 

@@ -25,9 +25,9 @@
 
 #include "adding/cdwizard.h"
 #include "adding/insertlist.h"
+#include "common/common.h"
 #include "document/entry_list_model.h"
 #include "document/frmDocument.h"
-#include "shell/common.h"
 #include "shell/config_files.h"
 #include "shell/main_window_fixture.h"
 #include "store/settings.h"

@@ -4,7 +4,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include "shell/common.h"
+#include "common/common.h"
 #include "store/settings.h"
 #include "support/temp_folder.h"
 

@@ -10,9 +10,9 @@
 #include <QTreeView>
 #include <QTreeWidget>
 
+#include "common/common.h"
 #include "document/frmDocument.h"
 #include "main_window_fixture.h"
-#include "shell/common.h"
 #include "shell/config_files.h"
 #include "store/settings.h"
 #include "support/catalogue_bytes.h"

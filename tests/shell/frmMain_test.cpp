@@ -6,8 +6,8 @@
 #include <QToolButton>
 #include <filesystem>
 
+#include "common/common.h"
 #include "main_window_fixture.h"
-#include "shell/common.h"
 #include "shell/recent_list.h"
 #include "store/settings.h"
 #include "support/catalogue_bytes.h"

@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-#include "shell/clock.h"
+#include "common/clock.h"
 #include "shell/frmMain.h"
 #include "support/temp_folder.h"
 #include "ui/desktop.h"

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-#include "shell/application_folder.h"
+#include "common/application_folder.h"
 #include "ui/icons.h"
 
 int main(int argc, char** argv) {

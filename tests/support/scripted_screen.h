@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/screen.h"
+#include "common/screen.h"
 
 namespace zvx::test {
 

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <system_error>
 
-#include "shell/application_folder.h"
+#include "common/application_folder.h"
 
 namespace zvx::test {
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "shell/common.h"
+#include "common/common.h"
 #include "support/scripted_screen.h"
 
 namespace zvx::test {

@@ -1,8 +1,8 @@
 #include "adding/insert_run.h"
 #include "command_list.h"
+#include "common/common.h"
 #include "console_screen.h"
 #include "folder_command_support.h"
-#include "shell/common.h"
 #include "store/load_settings.h"
 
 namespace zvx::cat {

@@ -3,10 +3,10 @@
 #include "adding/cdwizard_rules.h"
 #include "adding/tree_adding.h"
 #include "command_list.h"
+#include "common/common.h"
 #include "console_screen.h"
 #include "document/folder_icon_table.h"
 #include "folder_command_support.h"
-#include "shell/common.h"
 #include "store/load_settings.h"
 
 namespace zvx::cat {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "shell/field_text.h"
-#include "shell/text_case.h"
+#include "common/field_text.h"
+#include "common/text_case.h"
 
 namespace zvx::cat {
 

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "arguments.h"
-#include "shell/screen.h"
+#include "common/screen.h"
 
 namespace zvx::cat {
 

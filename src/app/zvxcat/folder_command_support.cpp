@@ -4,11 +4,11 @@
 #include <charconv>
 
 #include "command.h"
+#include "common/common.h"
+#include "common/text_case.h"
 #include "document/document_messages.h"
 #include "document/folder_icon_table.h"
 #include "platform/file_io.h"
-#include "shell/common.h"
-#include "shell/text_case.h"
 #include "store/catalogue_format.h"
 #include "store/toc.h"
 #include "store/write_protection.h"

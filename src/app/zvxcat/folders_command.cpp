@@ -1,6 +1,6 @@
 #include "command_list.h"
+#include "common/field_text.h"
 #include "folder_command_support.h"
-#include "shell/field_text.h"
 
 namespace zvx::cat {
 

@@ -1,9 +1,9 @@
 #include <string>
 
 #include "command_list.h"
+#include "common/common.h"
 #include "document/show_entries.h"
 #include "folder_command_support.h"
-#include "shell/common.h"
 #include "store/load_settings.h"
 
 namespace zvx::cat {

@@ -1,8 +1,8 @@
 #include <system_error>
 
 #include "command_list.h"
+#include "common/common.h"
 #include "platform/file_io.h"
-#include "shell/common.h"
 #include "store/new_catalogue.h"
 
 namespace zvx::cat {

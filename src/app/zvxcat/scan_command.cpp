@@ -1,10 +1,10 @@
 #include <string>
 
 #include "command_list.h"
+#include "common/common.h"
 #include "metadata/scan_file_name.h"
 #include "metadata/scan_scheme.h"
 #include "platform/catalogue_path.h"
-#include "shell/common.h"
 #include "store/load_settings.h"
 
 namespace zvx::cat {

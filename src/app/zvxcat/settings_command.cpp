@@ -1,7 +1,7 @@
 #include <string_view>
 
 #include "command_list.h"
-#include "shell/numeric_value.h"
+#include "common/numeric_value.h"
 #include "store/settings.h"
 
 namespace zvx::cat {

@@ -3,10 +3,10 @@
 #include <string>
 
 #include "command_list.h"
+#include "common/common.h"
+#include "common/field_text.h"
 #include "metadata/id3_tag.h"
 #include "metadata/mp3_stream.h"
-#include "shell/common.h"
-#include "shell/field_text.h"
 
 namespace zvx::cat {
 

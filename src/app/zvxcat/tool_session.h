@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "shell/common.h"
+#include "common/common.h"
 #include "work_folder.h"
 
 namespace zvx::cat {

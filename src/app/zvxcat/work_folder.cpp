@@ -3,7 +3,7 @@
 #include <system_error>
 
 #include "command.h"
-#include "shell/application_folder.h"
+#include "common/application_folder.h"
 
 namespace zvx::cat {
 

@@ -1,9 +1,9 @@
-#include "shell/summary_text.h"
+#include "common/summary_text.h"
 
 #include <array>
 #include <cmath>
 
-#include "shell/numeric_value.h"
+#include "common/numeric_value.h"
 
 namespace zvx {
 

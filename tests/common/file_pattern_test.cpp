@@ -1,4 +1,4 @@
-#include "shell/file_pattern.h"
+#include "common/file_pattern.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "shell/file_dialog_modes.h"
+#include "common/file_dialog_modes.h"
 
 #include <filesystem>
 #include <stdexcept>
 
-#include "shell/common.h"
+#include "common/common.h"
 
 namespace zvx {
 

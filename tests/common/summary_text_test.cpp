@@ -1,4 +1,4 @@
-#include "shell/summary_text.h"
+#include "common/summary_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "shell/text_case.h"
+#include "common/text_case.h"
 
 #include <gtest/gtest.h>
 
-#include "shell/field_text.h"
+#include "common/field_text.h"
 
 namespace zvx {
 namespace {

@@ -1,6 +1,6 @@
-#include "shell/common.h"
+#include "common/common.h"
 
-#include "shell/app_files.h"
+#include "common/app_files.h"
 
 namespace zvx {
 

@@ -1,4 +1,4 @@
-#include "shell/application_folder.h"
+#include "common/application_folder.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -7,7 +7,7 @@
 #include <string>
 #include <system_error>
 
-#include "shell/app_files.h"
+#include "common/app_files.h"
 
 namespace zvx {
 

@@ -1,4 +1,4 @@
-#include "shell/numeric_value.h"
+#include "common/numeric_value.h"
 
 #include <gtest/gtest.h>
 

@@ -8,14 +8,14 @@
 #include <string>
 #include <vector>
 
-#include "platform/volume_label.h"
-#include "shell/loaded_settings.h"
-#include "shell/media_values.h"
-#include "shell/screen.h"
+#include "common/loaded_settings.h"
+#include "common/media_values.h"
+#include "common/screen.h"
 
 namespace zvx {
 
 class DuplicateIndex;
+class VolumeLabels;
 
 // The version of the extension interface that extensions' requirements are compared with.
 inline constexpr int kExtensionInterfaceVersion = 110;
@@ -61,8 +61,9 @@ class Common {
     TagValues id3;
     StreamValues stream;
     ScanValues scan;
-    // The volume labels read in the current add run; each run begins with a clear().
-    VolumeLabels volumeLabels;
+    // The volume labels read in the current add run; each run begins without any, and
+    // the first file read makes them.
+    std::shared_ptr<VolumeLabels> volumeLabels;
     // The counter of NextFolderID, set by ScanHighestFolderID.
     long long folderIdCounter = 0;
     // Set by a new sub-folder: the next rebuild of a tree with nodes expands the node it

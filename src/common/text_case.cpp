@@ -1,4 +1,4 @@
-#include "shell/text_case.h"
+#include "common/text_case.h"
 
 #include <cstdint>
 

@@ -1,9 +1,9 @@
-#include "shell/file_pattern.h"
+#include "common/file_pattern.h"
 
 #include <algorithm>
 
-#include "shell/field_text.h"
-#include "shell/text_case.h"
+#include "common/field_text.h"
+#include "common/text_case.h"
 
 namespace zvx {
 

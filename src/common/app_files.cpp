@@ -1,8 +1,8 @@
-#include "shell/app_files.h"
+#include "common/app_files.h"
 
 #include <system_error>
 
-#include "shell/text_case.h"
+#include "common/text_case.h"
 
 namespace zvx {
 

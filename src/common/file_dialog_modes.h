@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "shell/screen.h"
+#include "common/screen.h"
 
 namespace zvx {
 

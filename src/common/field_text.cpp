@@ -1,4 +1,4 @@
-#include "shell/field_text.h"
+#include "common/field_text.h"
 
 namespace zvx {
 

@@ -1,4 +1,4 @@
-#include "shell/clock.h"
+#include "common/clock.h"
 
 #include <chrono>
 #include <ctime>

@@ -1,4 +1,4 @@
-#include "shell/file_dialog_modes.h"
+#include "common/file_dialog_modes.h"
 
 #include <gtest/gtest.h>
 

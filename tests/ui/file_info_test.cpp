@@ -1,4 +1,4 @@
-#include "shell/file_info.h"
+#include "ui/file_info.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "shell/application_folder.h"
+#include "common/application_folder.h"
 
 #include <gtest/gtest.h>
 
-#include "shell/app_files.h"
+#include "common/app_files.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
