@@ -4,6 +4,7 @@
 #include "common/field_text.h"
 #include "common/numeric_value.h"
 #include "common/text_case.h"
+#include "platform/file_error.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
 
@@ -67,13 +68,17 @@ SettingValue ReadSetting(const Common& common, std::string_view key,
                          const SettingValue& defaultValue) {
     const std::string prefix = KeyPrefix(key);
     const std::filesystem::path ini = common.iniFile();
-    TouchFile(ini);
-    LineReader reader(ini);
-    std::string_view line;
-    while (reader.next(line)) {
-        // An empty "KEY=" does not count: the default stands for an empty value.
-        if (line.size() > prefix.size() && line.starts_with(prefix))
-            return StoredValue(line.substr(prefix.size()));
+    // A settings file that cannot be made or read is no failure: the defaults apply.
+    try {
+        TouchFile(ini);
+        LineReader reader(ini);
+        std::string_view line;
+        while (reader.next(line)) {
+            // An empty "KEY=" does not count: the default stands for an empty value.
+            if (line.size() > prefix.size() && line.starts_with(prefix))
+                return StoredValue(line.substr(prefix.size()));
+        }
+    } catch (const FileError&) {
     }
     return defaultValue;
 }

@@ -32,7 +32,8 @@ struct SettingValue {
 };
 
 // The stored value of the key, or `defaultValue` when no line "KEY=" with a non-empty
-// value stands in the file. Creates an empty zvx.ini when there is none.
+// value stands in the file. Creates an empty zvx.ini when there is none. A file that
+// cannot be made or read gives the default.
 SettingValue ReadSetting(const Common& common, std::string_view key,
                          const SettingValue& defaultValue);
 SettingValue ReadSetting(const Common& common, std::string_view key, std::string_view defaultText);
@@ -41,7 +42,8 @@ SettingValue ReadSetting(const Common& common, std::string_view key, double defa
 // Replaces every line of the key (an empty "KEY=" included) by KEY=value, or appends
 // it. Rewrites zvx.ini through zvxini.tmp in the work folder. CR, LF and 01 in the key
 // or the value become blanks, so that a value can never break the file into lines.
-// A number is written as its decimal text.
+// A number is written as its decimal text. Throws FileError when the file cannot be
+// written.
 void WriteSetting(const Common& common, std::string_view key, std::string_view value);
 void WriteSetting(const Common& common, std::string_view key, double value);
 
