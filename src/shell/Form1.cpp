@@ -9,6 +9,7 @@
 
 #include "common/common.h"
 #include "store/settings.h"
+#include "ui/command_guard.h"
 #include "ui/icons.h"
 #include "ui/text_codec.h"
 
@@ -85,8 +86,10 @@ bool Form1::recentPanelVisible() const {
 }
 
 void Form1::done(int result) {
-    WriteSetting(common_, "firststart", "no");
-    WriteSetting(common_, "firststart2", "no");
+    RunGuarded(common_, [this] {
+        WriteSetting(common_, "firststart", "no");
+        WriteSetting(common_, "firststart2", "no");
+    });
     QDialog::done(result);
 }
 

@@ -21,6 +21,7 @@
 #include "shell/recent_list.h"
 #include "shell/window_arrangement.h"
 #include "ui/about.h"
+#include "ui/command_guard.h"
 #include "ui/icons.h"
 #include "ui/main_background.h"
 #include "ui/news_panel.h"
@@ -74,7 +75,10 @@ void frmMain::MDIForm_Load() {
 }
 
 void frmMain::ZVXCoreCalls(const std::string& name) {
-    ResolvedCommand resolved = ResolveCommand(name);
+    RunGuarded(common_, [this, &name] { runCommand(ResolveCommand(name)); });
+}
+
+void frmMain::runCommand(const ResolvedCommand& resolved) {
     switch (resolved.command) {
         case Command::ToolbarsStandard:
             toggleBar(0);
@@ -241,8 +245,11 @@ void frmMain::showAbout() {
 
 void frmMain::setSplash(frmSplash* splash) {
     splash_ = splash;
-    if (splash_)
-        connect(splash_, &QObject::destroyed, this, [this] { splash_ = nullptr; });
+    if (!splash_)
+        return;
+    // Owned by the main window: it goes with it and stays in front of it only.
+    splash_->setParent(this, kSplashFlags);
+    connect(splash_, &QObject::destroyed, this, [this] { splash_ = nullptr; });
 }
 
 void frmMain::nosplash() {
@@ -276,7 +283,7 @@ DocumentView* frmMain::createView(const std::string& caption) {
     };
     document->onClose = [this, document] {
         if (Document* open = lifecycle_->find(document))
-            lifecycle_->Close(*open);
+            RunGuarded(common_, [this, open] { lifecycle_->Close(*open); });
         // The window goes after this; the state follows the next active one.
         QTimer::singleShot(0, this, [this] { updateDocumentState(); });
     };
@@ -300,22 +307,30 @@ DocumentView* frmMain::activeView() const {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (unloaded_) {
-        event->accept();
+    event->accept();
+    if (unloaded_)
         return;
-    }
     unloaded_ = true;
-    common_.PLUGSTART("ZVXQUIT");
+    RunGuarded(common_, [this] { common_.PLUGSTART("ZVXQUIT"); });
     status("Closing ZVX...");
-    StoreWindowSettings(common_, currentWindowSettings());
-    for (QMdiSubWindow* window : mdi_->subWindowList())
-        window->close();
+    RunGuarded(common_, [this] { StoreWindowSettings(common_, currentWindowSettings()); });
+    unloadOtherWindows();
     cleanup window(common_, this);
     window.unloadNewsClient = [this] { news_->close(); };
     window.exec();
-    event->accept();
     if (onUnloaded)
         onUnloaded();
+}
+
+// Every other window goes before the clean-up: the welcome window writes its keys as it
+// goes, a dialog in front ends its command, and each document runs its close sequence.
+void frmMain::unloadOtherWindows() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window != this && window->isVisible())
+            window->close();
+    }
+    for (QMdiSubWindow* window : mdi_->subWindowList())
+        window->close();
 }
 
 }  // namespace zvx

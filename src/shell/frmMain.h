@@ -43,7 +43,8 @@ class frmMain : public QMainWindow, public DocumentWindows {
     // The load handler: recent files, geometry, bars, panels, the empty selection.
     void MDIForm_Load();
 
-    // Runs the command of a name; an unknown name is ignored.
+    // Runs the command of a name; an unknown name is ignored. A command that fails shows
+    // the error box, and the program goes on.
     void ZVXCoreCalls(const std::string& name);
     // Asks whether to quit; on Yes the window unloads and the process ends.
     void AskQuit();
@@ -61,7 +62,8 @@ class frmMain : public QMainWindow, public DocumentWindows {
     void RealMenuSelectionizer();
     void barmenustate();
     void RealSelectionizer(const SelectionState& state, bool keepFolderItems);
-    // Applies the active document's selection to menus and tool bar (none: all off).
+    // Applies the active document's selection to menus and tool bar (none: all off), and
+    // its view to the view menu's checks.
     void updateDocumentState();
 
     // The splash window of the start, removed by nosplash.
@@ -90,7 +92,9 @@ class frmMain : public QMainWindow, public DocumentWindows {
   private:
     void buildMenus();
     frmDocument* activeDocument() const;
+    void runCommand(const ResolvedCommand& resolved);
     void documentCommand(Command command);
+    void unloadOtherWindows();
     void loadColumnSetting(const std::string& number);
     void saveColumnSetting();
     void buildToolBars();

@@ -9,8 +9,7 @@
 
 namespace zvx {
 
-frmSplash::frmSplash(QWidget* parent)
-    : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint) {
+frmSplash::frmSplash(QWidget* parent) : QWidget(parent, kSplashFlags) {
     setObjectName("frmSplash");
     setAttribute(Qt::WA_DeleteOnClose);
     auto* layout = new QVBoxLayout(this);

@@ -30,5 +30,8 @@ class frmSplash : public QWidget {
 };
 
 inline constexpr const char* kSplashDone = "All done.";
+// A splash window, never kept above the others: once the main window owns it, the
+// dialogs of the start (the first-run question) come in front of it.
+inline constexpr Qt::WindowFlags kSplashFlags = Qt::SplashScreen | Qt::FramelessWindowHint;
 
 }  // namespace zvx

@@ -1,6 +1,7 @@
 #include "shell/main_sequence.h"
 
 #include <QApplication>
+#include <exception>
 #include <filesystem>
 #include <system_error>
 
@@ -20,11 +21,14 @@
 #include "store/load_settings.h"
 #include "store/settings.h"
 #include "ui/about.h"
+#include "ui/command_guard.h"
 #include "ui/desktop.h"
 #include "ui/flat_look.h"
 #include "ui/icons.h"
 #include "ui/news_panel.h"
 #include "ui/qt_screen.h"
+#include "ui/session_end.h"
+#include "ui/zvx_application.h"
 
 namespace zvx {
 
@@ -42,17 +46,30 @@ std::filesystem::path ProgramPath() {
 }
 
 // Dialogs belong to the main window (or the dialog in front of it); status and
-// progress go to its status bar.
-void ConnectScreen(QtScreen& screen, frmMain& main) {
-    screen.parentWindow = [&main]() -> QWidget* {
-        QWidget* modal = QApplication::activeModalWidget();
-        return modal ? modal : &main;
-    };
-    screen.onStatus = [&main](const std::string& text) { main.status(text); };
-    screen.onProgress = [&main](long long value, long long maximum) {
-        main.progress(value, maximum);
-    };
-}
+// progress go to its status bar. For the life of the main window only.
+class ScreenConnection {
+  public:
+    ScreenConnection(QtScreen& screen, frmMain& main) : screen_(screen) {
+        screen.parentWindow = [&main]() -> QWidget* {
+            QWidget* modal = QApplication::activeModalWidget();
+            return modal ? modal : &main;
+        };
+        screen.onStatus = [&main](const std::string& text) { main.status(text); };
+        screen.onProgress = [&main](long long value, long long maximum) {
+            main.progress(value, maximum);
+        };
+    }
+    ~ScreenConnection() {
+        screen_.parentWindow = nullptr;
+        screen_.onStatus = nullptr;
+        screen_.onProgress = nullptr;
+    }
+    ScreenConnection(const ScreenConnection&) = delete;
+    ScreenConnection& operator=(const ScreenConnection&) = delete;
+
+  private:
+    QtScreen& screen_;
+};
 
 // Steps 12 to 19: the stages after the main window is up.
 void LoadExtras(Common& common, frmMain& main, frmSplash& splash,
@@ -69,7 +86,7 @@ void LoadExtras(Common& common, frmMain& main, frmSplash& splash,
     if (common.firstStartMarker == "yes" &&
         common.screen().message("Welcome!", kWelcomeText, MsgButtons::YesNo, MsgIcon::Question) ==
             MsgAnswer::Yes)
-        RegisterFileTypes(common, registration);
+        RunGuarded(common, [&] { RegisterFileTypes(common, registration); });
     splash.setStatus("Running Start-Up-Plugins...");
     common.PLUGSTART("ZVXSTART");
 }
@@ -86,25 +103,68 @@ void Finish(Common& common, frmMain& main, frmSplash& splash) {
         return;
     }
     splash.setStatus("Loading external Document...");
-    main.lifecycle().LoadDoc();
+    RunGuarded(common, [&main] { main.lifecycle().LoadDoc(); });
     common.pendingDocument.clear();
     main.raise();
     splash.finish();
 }
 
+// Steps 5 to 9: the files of the application folder and the settings. A step that
+// fails is told and the start goes on: defaults stand in for what could not be read.
+void PrepareFolderAndSettings(Common& common, const RegistrationEnvironment& registration) {
+    PrepareConfigFiles(common);
+    RunGuarded(common, [&] { PublishRegistryInfo(common, registration); });
+    RemoveLeftoverCommandFile(common);
+    RunGuarded(common, [&] { ReadStartPaths(common); });
+    RunGuarded(common, [&] { LoadSettings(common); });
+}
+
+// Steps 10 to 20, from the splash to the welcome window, then the run.
+int ShowAndRun(ZvxApplication& app, Common& common, const ProgramServices& services,
+               const RegistrationEnvironment& registration) {
+    ApplyFlatLook(app, common.settings.flattenControls);
+    auto* splash = new frmSplash;
+    splash->show();
+    splash->setStatus("Loading ZVX...");
+    frmMain main(common, services.desktop, services.clock);
+    ScreenConnection connection(services.screen, main);
+    // Before the main loop runs, the unload closes every window, which ends their loops;
+    // once it runs, the main loop is told to end as well.
+    bool running = false;
+    main.onUnloaded = [&running] {
+        if (running)
+            QCoreApplication::exit(0);
+    };
+    SessionEnd sessionEnd([&main] { main.close(); });
+    main.MDIForm_Load();
+    splash->setStatus("Showing Main-Document...");
+    main.show();
+    main.status("");
+    main.setSplash(splash);
+    splash->show();
+    splash->raise();
+    LoadExtras(common, main, *splash, registration);
+    Finish(common, main, *splash);
+    if (main.unloaded())
+        return 0;
+    running = true;
+    return app.exec();
+}
+
 }  // namespace
 
-int Main(int argc, char** argv) {
-    const std::string commandLine = AbsoluteDocumentPath(ApplyQuoteRule(JoinArguments(argc, argv)),
-                                                         std::filesystem::current_path());
-    QApplication app(argc, argv);
-    InitUiResources();
-    QtScreen screen;
-    const std::filesystem::path program = ProgramPath();
+int RunProgram(ZvxApplication& app, const std::string& commandLine,
+               const ProgramServices& services) {
+    QtScreen& screen = services.screen;
     const std::filesystem::path appFolder =
-        ResolveApplicationFolder(CurrentFolderEnvironment(program.parent_path()));
+        ResolveApplicationFolder(CurrentFolderEnvironment(services.programPath.parent_path()));
     EnsureFolder(appFolder);
     Common common(appFolder, appFolder, screen);
+    app.onException = [&common](std::exception_ptr error) { ShowErrorBox(common, error); };
+    struct ForgetHandler {
+        ZvxApplication& app;
+        ~ForgetHandler() { app.onException = nullptr; }
+    } forget{app};
     if (IsRootFolder(appFolder)) {
         screen.message(kRootRefusalCaption, kRootRefusalText, MsgButtons::OkOnly,
                        MsgIcon::Critical);
@@ -123,30 +183,26 @@ int Main(int argc, char** argv) {
         case StartDecision::StartPlain:
             break;
     }
-    PrepareConfigFiles(common);
-    const RegistrationEnvironment registration = CurrentRegistrationEnvironment(program);
-    PublishRegistryInfo(common, registration);
-    RemoveLeftoverCommandFile(common);
-    ReadStartPaths(common);
-    LoadSettings(common);
-    ApplyFlatLook(app, common.settings.flattenControls);
+    const RegistrationEnvironment registration =
+        CurrentRegistrationEnvironment(services.programPath);
+    PrepareFolderAndSettings(common, registration);
+    return ShowAndRun(app, common, services, registration);
+}
 
-    auto* splash = new frmSplash;
-    splash->show();
-    splash->setStatus("Loading ZVX...");
+int Main(int argc, char** argv) {
+    const std::string commandLine = AbsoluteDocumentPath(ApplyQuoteRule(JoinArguments(argc, argv)),
+                                                         std::filesystem::current_path());
+    ZvxApplication app(argc, argv);
+    InitUiResources();
+    QtScreen screen;
     SystemClock clock;
-    frmMain main(common, SystemDesktop(), clock);
-    ConnectScreen(screen, main);
-    main.onUnloaded = [&app] { app.quit(); };
-    main.MDIForm_Load();
-    splash->setStatus("Showing Main-Document...");
-    main.show();
-    main.status("");
-    main.setSplash(splash);
-    splash->raise();
-    LoadExtras(common, main, *splash, registration);
-    Finish(common, main, *splash);
-    return main.unloaded() ? 0 : app.exec();
+    try {
+        return RunProgram(app, commandLine, {screen, SystemDesktop(), clock, ProgramPath()});
+    } catch (const std::exception& error) {
+        // Only the application folder itself can fail this early.
+        screen.message(kErrorBoxCaption, error.what(), MsgButtons::OkOnly, MsgIcon::Critical);
+        return 1;
+    }
 }
 
 }  // namespace zvx

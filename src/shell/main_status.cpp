@@ -14,6 +14,7 @@
 #include "shell/command_file.h"
 #include "shell/frmMain.h"
 #include "ui/about.h"
+#include "ui/command_guard.h"
 #include "ui/news_panel.h"
 #include "ui/text_codec.h"
 
@@ -115,7 +116,7 @@ void frmMain::showDate() {
 }
 
 void frmMain::pollCommandFile() {
-    poll_->tick();
+    RunGuarded(common_, [this] { poll_->tick(); });
 }
 
 void frmMain::applyWindowSettings(const WindowSettings& settings) {

@@ -98,15 +98,16 @@ void frmMain::RealSelectionizer(const SelectionState& state, bool keepFolderItem
 }
 
 void frmMain::updateDocumentState() {
-    if (!activeView()) {
+    RealMenuSelectionizer();
+    frmDocument* document = activeDocument();
+    if (!document) {
         for (const char* key : {"foldermnuTOP", "pathmnuTOP", "mnufile2", "mnufile3", "mnufile4"})
             if (QAction* entry = menuEntry(key))
                 entry->setEnabled(false);
         RealSelectionizer(kNoDocumentState, false);
         return;
     }
-    // The tree and the list report their facts once they hold folders and entries.
-    SelectionUpdate update = selecTionIzer(SelectionFacts{}, false, false);
+    SelectionUpdate update = selecTionIzer(document->selectionFacts(), false, false);
     for (const MenuInstruction& instruction : update.menus)
         if (QAction* entry = menuEntry(
                 QString::fromUtf8(instruction.menuKey.data(), instruction.menuKey.size())))
