@@ -17,7 +17,7 @@ void frmDocument::crefolder_Click() {
     const std::optional<FolderDialogResult> result = dialog.showing();
     if (!result)
         return;
-    applyFolderChange(CreateFolder(common_, cfn(), tree_, selectedFolder(), *result).changed, {});
+    applyFolderChange(CreateFolder(common_, cfn(), tree_, selectedFolder(), *result).changed);
 }
 
 void frmDocument::Folderprefs_Click() {
@@ -28,13 +28,13 @@ void frmDocument::Folderprefs_Click() {
     const std::optional<FolderDialogResult> result = dialog.showing();
     if (!result)
         return;
-    applyFolderChange(ChangeFolderProperties(common_, cfn(), tree_, node, *result).changed, {});
+    applyFolderChange(ChangeFolderProperties(common_, cfn(), tree_, node, *result).changed);
 }
 
 void frmDocument::delFolder_Click() {
     if (selectedFolder() < 0 || !ConfirmFolderDelete(common_))
         return;
-    applyFolderChange(DeleteFolder(common_, cfn(), tree_, selectedFolder()).changed, {});
+    applyFolderChange(DeleteFolder(common_, cfn(), tree_, selectedFolder()).changed);
 }
 
 void frmDocument::movfolder_Click() {
@@ -48,22 +48,38 @@ void frmDocument::movfolder_Click() {
     const FolderNode& source = tree_.nodes[static_cast<size_t>(node)];
     const FolderChange change =
         extrememoving(common_, cfn(), tree_, source.fullPath, source.text, target);
-    applyFolderChange(change.changed, change.reselect);
+    if (!change.changed)
+        return;
+    // The nodes go first, so that the rebuild selects the first folder; then the target
+    // is selected and listed, once.
+    filling_ = true;
+    List2_->clear();
+    items_.clear();
+    filling_ = false;
+    listak();
+    selectPath(change.reselect);
+    ShowEntries();
 }
 
-// After a change of the working copy: the tree and the list anew, and the folder that
-// moved selected again.
-void frmDocument::applyFolderChange(bool changed, const std::string& reselect) {
-    if (!changed)
-        return;
-    refresh_Click();
-    const int node = reselect.empty() ? -1 : pathextrude(tree_, reselect);
+// After a change of the working copy: the tree and the list anew.
+void frmDocument::applyFolderChange(bool changed) {
+    if (changed)
+        refresh_Click();
+}
+
+// pathextrude: selects, shows and expands the folder of the path (with its trailing ""),
+// without listing it; no such folder leaves the selection alone.
+void frmDocument::selectPath(const std::string& path) {
+    const int node = pathextrude(tree_, path);
     if (node < 0 || static_cast<size_t>(node) >= items_.size())
         return;
     QTreeWidgetItem* item = items_[static_cast<size_t>(node)];
+    filling_ = true;
     List2_->setCurrentItem(item);
+    filling_ = false;
     List2_->scrollToItem(item);
     item->setExpanded(true);
+    showCaption();
 }
 
 void frmDocument::expandmnu_Click() {

@@ -15,9 +15,8 @@
 #include "document/column_layout.h"
 #include "document/entry_list_model.h"
 #include "document/frmDocument.h"
-#include "document/list_appearance.h"
+#include "document/list_appearance_view.h"
 #include "platform/file_error.h"
-#include "ui/main_background.h"
 
 namespace zvx {
 
@@ -47,16 +46,8 @@ void frmDocument::buildList() {
     Tabthing_->addTab(views_, "Entries");
 
     const ListAppearance look = ReadListAppearance(common_);
-    ListView1_->setSelectionBehavior(look.selRow ? QAbstractItemView::SelectRows
-                                                 : QAbstractItemView::SelectItems);
-    ListView1_->setAlternatingRowColors(look.showGrid);
-    ListView1_->setMouseTracking(look.hot || look.hover);
-    if (look.showBack) {
-        QPalette palette = ListView1_->viewport()->palette();
-        palette.setBrush(QPalette::Base, MainBackground());
-        ListView1_->viewport()->setPalette(palette);
-        ListView1_->setAlternatingRowColors(false);
-    }
+    ApplyListAppearance(ListView1_, look);
+    ApplyListAppearance(iconView_, look);
 
     // Timer1: a burst of selection changes is summed up once.
     Timer1_ = new QTimer(this);

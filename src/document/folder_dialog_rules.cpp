@@ -53,7 +53,7 @@ FolderPropsSetup FolderPropsOf(const FolderNode& node) {
 }
 
 std::string FolderNameAsTyped(std::string_view text) {
-    return std::string(LTrim(text));
+    return std::string(LTrim(CleanFieldText(text)));
 }
 
 bool CheckFolderProps(const Common& common, std::string_view name, std::string_view description,
@@ -77,12 +77,13 @@ bool CheckFolderProps(const Common& common, std::string_view name, std::string_v
 std::optional<FolderDialogResult> FolderPropsOk(const Common& common, bool newFolder,
                                                 std::string_view name, std::string_view description,
                                                 int iconRow, bool subFolder) {
-    if (!CheckFolderProps(common, name, description, iconRow))
+    std::string typed = FolderNameAsTyped(name);
+    if (!CheckFolderProps(common, typed, description, iconRow))
         return std::nullopt;
     if (newFolder)
         StoreOption(common, kFolderPropModeKey, subFolder);
-    return FolderDialogResult{std::string(name), std::string(description),
-                              FolderIconTable()[iconRow].number, newFolder && subFolder};
+    return FolderDialogResult{typed, std::string(description), FolderIconTable()[iconRow].number,
+                              newFolder && subFolder};
 }
 
 MovingSetup SetUpMoving(Common& common, const std::filesystem::path& workingCopy, MovingMode mode,

@@ -50,7 +50,9 @@ FolderPropsSetup NewFolderProps(const Common& common, bool documentHasFolders);
 // Properties mode: the node's name, description and the row of its icon.
 FolderPropsSetup FolderPropsOf(const FolderNode& node);
 
-// Text1 loses leading blanks as they are typed.
+// The name as Text1 holds it: a byte 01, CR or LF is a blank, as in the stored name,
+// and leading blanks are lost as they are typed. The window and zvxcat both take a
+// typed name through this.
 std::string FolderNameAsTyped(std::string_view text);
 
 // The OK button's checks, in order: no "\" or "*" in the name, no "*" in the
@@ -59,9 +61,9 @@ std::string FolderNameAsTyped(std::string_view text);
 bool CheckFolderProps(const Common& common, std::string_view name, std::string_view description,
                       int iconRow);
 
-// The OK button: the checks, then the result. In new-folder mode the choice of Option1
-// or Option2 is stored as LASTFOLDERPROPMODE 1 or 2. A refusal gives none, and the
-// dialog stays open.
+// The OK button: the checks on the name as typed, then the result. In new-folder mode the choice of
+// Option1 or Option2 is stored as LASTFOLDERPROPMODE 1 or 2. A refusal gives none, and the dialog
+// stays open.
 std::optional<FolderDialogResult> FolderPropsOk(const Common& common, bool newFolder,
                                                 std::string_view name, std::string_view description,
                                                 int iconRow, bool subFolder);

@@ -37,7 +37,7 @@ struct FolderChange {
 
 // crefolder_Click once the dialog was answered: the new path is the selected FullPath +
 // "\" + name for a sub-folder (which sets ExpandAfterRefresh) and the name alone for a
-// root folder; an existing path, compared in lower case, is refused with "The Folder
+// root folder; a path that exists already (SameFolderPath) is refused with "The Folder
 // "..." does already exist!". The folder gets the lowest free ID, its record is written
 // behind the last one, and FOLDERCREATE is fired.
 FolderChange CreateFolder(Common& common, const std::filesystem::path& workingCopy,
@@ -55,7 +55,8 @@ FolderChange DeleteFolder(Common& common, const std::filesystem::path& workingCo
                           const FolderTree& tree, int selected);
 
 // Folderprefs_Click once the dialog was answered. The new path is the parent path +
-// name; a new name that differs in more than case must not exist. Every record whose
+// name; a new name that is not the old one in another case (SameFolderPath) must not
+// exist. Every record whose
 // path line begins with the old path (case-sensitive, no separator in the test) gets the
 // new path, so that renaming Music also turns a sibling Music2\ into the child 2 of the
 // renamed folder. The records with the selected folder's ID get the new description

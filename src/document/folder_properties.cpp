@@ -3,7 +3,6 @@
 
 #include "common/common.h"
 #include "common/field_text.h"
-#include "common/text_case.h"
 #include "document/folder_existence.h"
 #include "document/folder_operations.h"
 #include "platform/file_io.h"
@@ -83,7 +82,7 @@ FolderChange ChangeFolderProperties(Common& common, const std::filesystem::path&
         node.fullPath, CleanFieldText(parentPath + dialog.name), node.id(),
         CleanFieldText(dialog.description) + static_cast<char>(kIconCharBase + dialog.icon)};
     // A change of case alone needs no test.
-    if (LowerCase(dialog.name) != LowerCase(node.text) &&
+    if (!SameFolderPath(dialog.name, node.text) &&
         RefuseExistingFolder(common, tree, parentPath + dialog.name))
         return {};
     RewriteProperties(common, workingCopy, change);

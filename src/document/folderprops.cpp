@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "document/folder_icon_table.h"
 #include "ui/folder_icons.h"
@@ -56,8 +57,19 @@ folderprops::folderprops(Common& common, bool newFolder, const FolderPropsSetup&
     connect(buttons, &QDialogButtonBox::accepted, this, &folderprops::ok);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
+    connect(Text1_, &QLineEdit::textEdited, this, &folderprops::Text1_Change);
     if (newFolder_)
         Text1_->selectAll();
+}
+
+// Text1 loses leading blanks as they are typed; the cursor keeps its place in the rest.
+void folderprops::Text1_Change(const QString& text) {
+    const QString typed = ToQString(FolderNameAsTyped(FromQString(text)));
+    if (typed == text)
+        return;
+    const int cursor = Text1_->cursorPosition() - static_cast<int>(text.size() - typed.size());
+    Text1_->setText(typed);
+    Text1_->setCursorPosition(std::max(cursor, 0));
 }
 
 void folderprops::ok() {

@@ -26,6 +26,7 @@ class folderprops : public QDialog {
 
   private:
     void ok();
+    void Text1_Change(const QString& text);
 
     Common& common_;
     bool newFolder_;

@@ -99,7 +99,8 @@ class frmDocument : public QWidget, public DocumentView {
     void folderSelected();
     void List2_Collapse(QTreeWidgetItem* item);
     void showCaption();
-    void applyFolderChange(bool changed, const std::string& reselect);
+    void applyFolderChange(bool changed);
+    void selectPath(const std::string& path);
     void sortBy(int column);
     void applySort();
     void summarize();

@@ -36,6 +36,9 @@ moving::moving(Common& common, MovingMode mode, MovingSetup setup, QWidget* pare
         List1_->setCurrentItem(items[static_cast<size_t>(setup_.selected)]);
     List1_->expandAll();
     layout->addWidget(List1_);
+    // Option2 (the root) leaves nothing to choose in the tree; Option1 gives it back.
+    List1_->setDisabled(option2->isChecked());
+    connect(option2, &QRadioButton::toggled, List1_, &QWidget::setDisabled);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

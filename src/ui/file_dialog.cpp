@@ -3,8 +3,11 @@
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
+#include "ui/content_icons.h"
 #include "ui/file_info.h"
 #include "ui/text_codec.h"
 
@@ -23,16 +26,27 @@ QString FilterText(const std::string& label, const std::string& patterns) {
 
 namespace {
 
-// The information labels below the dialog, kept up to date with its selection.
+// The information labels below the dialog, with the icon of a file's content type, kept
+// up to date with its selection.
 void AddFileInfo(QFileDialog& dialog, QGridLayout& grid) {
+    auto* panel = new QWidget(&dialog);
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* icon = new QLabel(panel);
+    icon->setObjectName("FileInfoIcon");
+    icon->setFixedSize(32, 32);
+    row->addWidget(icon, 0, Qt::AlignTop);
+    auto* texts = new QVBoxLayout;
+    row->addLayout(texts, 1);
     const char* names[] = {"FileInfoFolder", "FileInfoSize", "FileInfoType"};
     QLabel* labels[3];
     for (int i = 0; i < 3; ++i) {
-        labels[i] = new QLabel(&dialog);
+        labels[i] = new QLabel(panel);
         labels[i]->setObjectName(names[i]);
-        grid.addWidget(labels[i], grid.rowCount(), 0, 1, grid.columnCount());
+        texts->addWidget(labels[i]);
     }
-    auto update = [&dialog, labels](const QString& current) {
+    grid.addWidget(panel, grid.rowCount(), 0, 1, grid.columnCount());
+    auto update = [&dialog, labels, icon](const QString& current) {
         // Several selected files are listed; otherwise the one under the cursor counts.
         QStringList selected = dialog.selectedFiles();
         if (selected.size() <= 1)
@@ -44,6 +58,7 @@ void AddFileInfo(QFileDialog& dialog, QGridLayout& grid) {
         labels[0]->setText(ToQString(texts.folder));
         labels[1]->setText(ToQString(texts.info));
         labels[2]->setText(ToQString(texts.type));
+        icon->setPixmap(texts.icon > 0 ? ContentIcon(texts.icon).pixmap(32, 32) : QPixmap());
     };
     QObject::connect(&dialog, &QFileDialog::currentChanged, &dialog, update);
     update(QString());

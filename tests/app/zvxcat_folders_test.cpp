@@ -33,7 +33,12 @@ TEST(ZvxcatFolders, MkdirMakesFoldersThatFoldersLists) {
 
 TEST(ZvxcatFolders, MkdirRefusesLikeTheWindow) {
     ToolSandbox box;
-    const std::string bytes = CatalogueBytes({{"Music\\", "", 10, "00000000"}}, {});
+    const std::string bytes = CatalogueBytes({{"Music\\", "", 10, "00000000"},
+                                              {"x y\\", "", 10, "00000001"},
+                                              {"\xDC"
+                                               "ber\\",
+                                               "", 10, "00000002"}},
+                                             {});
     WriteAll(box / "c.zvx", bytes);
     auto refusal = [&](const std::vector<std::string>& args) {
         ToolResult result = box.run(args);
@@ -43,6 +48,16 @@ TEST(ZvxcatFolders, MkdirRefusesLikeTheWindow) {
     };
     EXPECT_EQ(refusal({"mkdir", "c.zvx", "MUSIC"}),
               "Error: The Folder \"MUSIC\" does already exist!");
+    // The name as it will be stored, in either code page.
+    EXPECT_EQ(refusal({"mkdir", "c.zvx", "  x\ny"}),
+              "Error: The Folder \"x y\" does already exist!");
+    EXPECT_EQ(refusal({"mkdir", "c.zvx", "x\x01y"}),
+              "Error: The Folder \"x y\" does already exist!");
+    EXPECT_EQ(refusal({"mkdir", "c.zvx",
+                       "\xC3\xBC"
+                       "BER"}),
+              "Error: The Folder \"\xC3\xBC"
+              "BER\" does already exist!");
     EXPECT_EQ(refusal({"mkdir", "c.zvx", "x", "--icon", "2"}), "Error: Please select an Icon!");
     EXPECT_EQ(refusal({"mkdir", "c.zvx", "Art/Modern"}),
               "zvxcat: no folder 'Art' in " + (box / "c.zvx").string());
@@ -76,6 +91,21 @@ TEST(ZvxcatFolders, RenameMvdirAndRmdirChangeTheTree) {
     EXPECT_EQ(ReadAll(box / "c.zvx"),
               CatalogueBytes({{"Sound\\", "", 12, "00000000"}, {"Sound\\2\\", "", 10, "00000002"}},
                              {EntryLineOf("00000002", {"x"})}));
+}
+
+TEST(ZvxcatFolders, RenameRefusesAnEntryOffsetShortOfTheFolderTable) {
+    ToolSandbox box;
+    std::string bytes = CatalogueBytes(
+        {{"Music\\", "", 10, "00000000"}, {"Music\\Rock\\", "", 10, "00000001"}}, {});
+    bytes.replace(1, 4, std::string("\x00\x00\x00\x08", 4));  // the offset of an empty TOC
+    WriteAll(box / "c.zvx", bytes);
+    ToolResult renamed = box.run({"rename", "c.zvx", "music", "Sound"});
+    EXPECT_EQ(renamed.status, 1);
+    EXPECT_NE(renamed.err.find("entry offset in the header of " + (box / "c.zvx").string() +
+                               " (8) is not the end of its folder table (55)"),
+              std::string::npos)
+        << renamed.err;
+    EXPECT_EQ(ReadAll(box / "c.zvx"), bytes);
 }
 
 }  // namespace

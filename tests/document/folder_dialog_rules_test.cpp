@@ -27,6 +27,7 @@ TEST(FolderProps, ChecksNameDescriptionAndIconInOrder) {
     EXPECT_EQ(Refusal("a", "", -1), "Please select an Icon!");
     EXPECT_EQ(Refusal("a", "c:\\music", 15), "");
     EXPECT_EQ(FolderNameAsTyped("  New "), "New ");
+    EXPECT_EQ(FolderNameAsTyped("\n x\x01y\r"), "x y ");
 }
 
 TEST(FolderProps, NewFolderModeRemembersTheChoiceOfSubFolderOrRoot) {
@@ -35,8 +36,9 @@ TEST(FolderProps, NewFolderModeRemembersTheChoiceOfSubFolderOrRoot) {
     EXPECT_EQ(first.iconRow, 0);
     EXPECT_TRUE(first.showFrame && first.option1Enabled && first.subFolder);
 
-    std::optional<FolderDialogResult> ok = FolderPropsOk(env.common, true, "x", "d", 4, false);
+    std::optional<FolderDialogResult> ok = FolderPropsOk(env.common, true, "  x", "d", 4, false);
     ASSERT_TRUE(ok);
+    EXPECT_EQ(ok->name, "x");
     EXPECT_EQ(ok->icon, 4);
     EXPECT_FALSE(ok->asSubFolder);
     EXPECT_EQ(ReadSetting(env.common, "LASTFOLDERPROPMODE", "").toText(), "2");

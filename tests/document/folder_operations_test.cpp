@@ -83,6 +83,30 @@ TEST(CreateFolder, AnExistingPathIsRefusedWithoutRegardToCase) {
     EXPECT_TRUE(doc.events.empty());
 }
 
+TEST(CreateFolder, TheExistenceTestTakesTheNameAsStoredAndEitherCodePage) {
+    // "x y", and "Über" written on Windows (Windows-1252).
+    Document doc({{"x y\\", "", 10, "00000000"},
+                  {"\xDC"
+                   "ber\\",
+                   "", 10, "00000001"}});
+    const std::string before = doc.bytes();
+    for (const char* name : {"x\x01y", "x\ny", "X\rY",
+                             "\xC3\xBC"
+                             "ber",
+                             "\xC3\x9C"
+                             "BER"}) {
+        EXPECT_FALSE(CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1, Dialog(name)).changed)
+            << name;
+    }
+    EXPECT_EQ(doc.bytes(), before);
+    EXPECT_EQ(doc.env.screen.shown.at(1).text, "The Folder \"x y\" does already exist!");
+    // A name from the other code page that is another letter is another folder.
+    EXPECT_TRUE(CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1,
+                             Dialog("\xC3\xBC"
+                                    "bel"))
+                    .changed);
+}
+
 TEST(DeleteFolder, RemovesSubFoldersAndTheirEntriesAndKeepsEmptyLines) {
     Document doc(kMusic, {EntryLineOf("00000000", {"a"}), EntryLineOf("00000002", {"b"}), "",
                           EntryLineOf("00000001", {"c"}), EntryLineOf("00000003", {"d"})});
@@ -152,6 +176,20 @@ TEST(FolderProperties, ACaseChangePassesAndAnotherExistingNameIsRefused) {
                     .changed);
     EXPECT_NE(doc.at("Music\\ROCK"), -1);
     EXPECT_EQ(doc.env.screen.shown.size(), 1u);
+
+    // A Windows-1252 "Über" spelt "über" in UTF-8 is a change of case alone.
+    Document windows(
+        {{"\xDC"
+          "ber\\",
+          "", 10, "00000000"}});
+    EXPECT_TRUE(ChangeFolderProperties(windows.env.common, windows.cfn, windows.tree(), 0,
+                                       Dialog("\xC3\xBC"
+                                              "ber"))
+                    .changed);
+    EXPECT_EQ(windows.at("\xC3\xBC"
+                         "ber"),
+              0);
+    EXPECT_TRUE(windows.env.screen.shown.empty());
 }
 
 TEST(MoveFolder, MovesTheFolderWithItsSubFoldersAndLeavesEntriesAlone) {

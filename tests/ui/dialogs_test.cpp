@@ -49,6 +49,7 @@ TEST(FileDialog, OpenDialogOffersTheReadOnlyBoxAndShowsWhatIsSelected) {
         dialog->selectFile(ToQString((folder / "music.zvx").string()));
         emit dialog->currentChanged(ToQString((folder / "music.zvx").string()));
         EXPECT_EQ(dialog->findChild<QLabel*>("FileInfoSize")->text(), " (1234 bytes)");
+        EXPECT_FALSE(dialog->findChild<QLabel*>("FileInfoIcon")->pixmap().isNull());
         dialog->findChild<QCheckBox*>("ReadOnlyBox")->setChecked(true);
         dialog->grab().save(QString(ZVX_SCREENSHOT_DIR) + "/file_dialog_load.png");
         // The dialog reads its folder in the background: accept once it has.

@@ -5,8 +5,8 @@
 
 #include "command.h"
 #include "common/common.h"
-#include "common/text_case.h"
 #include "document/document_messages.h"
+#include "document/folder_existence.h"
 #include "document/folder_icon_table.h"
 #include "platform/file_io.h"
 #include "store/catalogue_format.h"
@@ -73,7 +73,7 @@ int RequireFolder(const FolderTree& tree, std::string_view text,
                   const std::filesystem::path& file) {
     std::string path = FolderPathArgument(text);
     for (int i = 0; i < tree.size(); ++i) {
-        if (TextEquals(tree.nodes[i].fullPath, path))
+        if (SameFolderPath(tree.nodes[i].fullPath, path))
             return i;
     }
     throw ToolFailure("no folder '" + std::string(text) + "' in " + file.string());

@@ -48,8 +48,8 @@ class FolderCatalogue {
 // a name there ("\AC/DC" is the root folder AC/DC).
 std::string FolderPathArgument(std::string_view text);
 
-// The first node whose FullPath equals FOLDERPATH without regard to case; ToolFailure
-// when there is none.
+// The first node whose FullPath is FOLDERPATH by the rule of SameFolderPath (without
+// regard to case or code page); ToolFailure when there is none.
 int RequireFolder(const FolderTree& tree, std::string_view text, const std::filesystem::path& file);
 
 // The folder dialog answered from the command line: the name as if typed, --description

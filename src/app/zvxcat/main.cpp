@@ -1,5 +1,6 @@
 // zvxcat COMMAND [ARGUMENTS]: finds the command, checks its arguments, sets up the
-// process and runs it. Exit status 0 on success, 1 on failure, 2 on wrong use.
+// process and runs it. Exit status 0 on success, 1 on failure, 2 on wrong use; any
+// failure, whatever was thrown, ends with a message and status 1.
 
 #include <unistd.h>
 
@@ -10,13 +11,13 @@
 
 #include "command_list.h"
 #include "console_screen.h"
+#include "fatal_error.h"
 #include "tool_session.h"
 
 namespace {
 
 using namespace zvx::cat;
 
-constexpr int kExitFailure = 1;
 constexpr int kExitUsage = 2;
 
 int RunCommand(const Command& command, const std::vector<std::string>& args) {
@@ -44,10 +45,7 @@ int UsageFailure(const std::string& text, const Command* command) {
     return kExitUsage;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    std::vector<std::string> args(argv + 1, argv + argc);
+int Main(const std::vector<std::string>& args) {
     if (args.empty())
         return UsageFailure("no command given", nullptr);
     if (args[0] == "--help") {
@@ -61,8 +59,17 @@ int main(int argc, char** argv) {
         return RunCommand(*command, {args.begin() + 1, args.end()});
     } catch (const UsageError& e) {
         return UsageFailure(std::string(command->name) + ": " + e.what(), command);
-    } catch (const std::exception& e) {
-        std::cerr << "zvxcat: " << e.what() << "\n";
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    EndTerminateWithFailure();
+    try {
+        return Main({argv + 1, argv + argc});
+    } catch (...) {
+        PrintFailure(std::current_exception());
         return kExitFailure;
     }
 }

@@ -41,8 +41,9 @@ const Command& MvdirCommand() {
         "Usage: zvxcat mvdir FILE FOLDERPATH TARGET\n"
         "Moves the folder FOLDERPATH of the catalogue FILE, with everything below it,\n"
         "into the folder TARGET; a TARGET of \\ (or /) is the root. The entries stay in\n"
-        "their folders. Refused when TARGET holds a folder of the same name, is the\n"
-        "folder's own parent, or lies inside the folder.\n",
+        "their folders. Refused when TARGET holds a folder of the very same name (case\n"
+        "counts; a folder of that name at the root is no refusal), is the folder's own\n"
+        "parent, or lies inside the folder (these two without regard to case).\n",
         {},
         CheckMvdir,
         RunMvdir};

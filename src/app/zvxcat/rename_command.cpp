@@ -1,6 +1,10 @@
+#include <string>
+
+#include "command.h"
 #include "command_list.h"
 #include "document/folder_operations.h"
 #include "folder_command_support.h"
+#include "store/entry_offset.h"
 
 namespace zvx::cat {
 
@@ -10,8 +14,24 @@ void CheckRename(const Arguments& arguments) {
     RequirePositionalCount(arguments, 3, 3);
 }
 
+// The folder properties take only the lines before the header's entry offset for
+// folder records. An offset short of the folder table's end would rename some folders
+// or none, one beyond it would take entry lines for records: either is refused before
+// anything changes, where the window would go on in silence.
+void RequireEntryOffsetAtTocEnd(const std::filesystem::path& file) {
+    const uint64_t offset = ReadEntryOffset(file);
+    const uint64_t tocEnd = FindTocEnd(file);
+    if (offset == tocEnd)
+        return;
+    throw ToolFailure("the entry offset in the header of " + file.string() + " (" +
+                      std::to_string(offset) + ") is not the end of its folder table (" +
+                      std::to_string(tocEnd) + "): nothing was renamed, and " + file.string() +
+                      " is unchanged");
+}
+
 void RunRename(const Arguments& arguments, Common& common, std::ostream&) {
     FolderCatalogue catalogue(common, arguments.positional[0]);
+    RequireEntryOffsetAtTocEnd(catalogue.file());
     FolderTree tree = catalogue.tree();
     int folder = RequireFolder(tree, arguments.positional[1], catalogue.file());
     const FolderNode& node = tree.nodes[folder];
@@ -38,6 +58,8 @@ const Command& RenameCommand() {
         "one is renamed with it: renaming Music turns a Music2 beside it into the\n"
         "sub-folder 2 of the renamed folder. A new name other than in case must not\n"
         "exist beside the folder. The name may not hold \\ or *, nor the description *.\n"
+        "A catalogue whose header's entry offset is not the end of its folder table is\n"
+        "refused (see zvxcat info), as the renaming would miss folders.\n"
         "  --description TEXT  the new description\n"
         "  --icon N            the new icon number (see zvxcat mkdir --help)\n",
         {kDescriptionOption, kIconOption},
