@@ -19,18 +19,11 @@ void FailInNoexcept(bool standard) noexcept {
 }
 
 TEST(FatalError, ATerminateEndsWithTheMessageAndStatusOne) {
-    EXPECT_EXIT(
-        {
-            EndTerminateWithFailure();
-            FailInNoexcept(true);
-        },
-        testing::ExitedWithCode(kExitFailure), "zvxcat: the catalogue went away");
-    EXPECT_EXIT(
-        {
-            EndTerminateWithFailure();
-            FailInNoexcept(false);
-        },
-        testing::ExitedWithCode(kExitFailure), "zvxcat: an unexpected failure ended the run");
+    EndTerminateWithFailure();
+    EXPECT_EXIT(FailInNoexcept(true), testing::ExitedWithCode(kExitFailure),
+                "zvxcat: the catalogue went away");
+    EXPECT_EXIT(FailInNoexcept(false), testing::ExitedWithCode(kExitFailure),
+                "zvxcat: an unexpected failure ended the run");
 }
 
 }  // namespace

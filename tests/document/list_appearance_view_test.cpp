@@ -42,15 +42,6 @@ struct ListWindow {
     ListLookDelegate* delegate = nullptr;
 };
 
-TEST(ListAppearance, WithTheSwitchesOffTheListHasNoGridNoHotTrackingAndNoHoverSelection) {
-    ListWindow window({});
-    ASSERT_NE(window.delegate, nullptr);
-    EXPECT_FALSE(window.delegate->gridLines() || window.delegate->hotTracking());
-    EXPECT_FALSE(window.list->alternatingRowColors());
-    EXPECT_FALSE(window.list->hasMouseTracking());
-    EXPECT_EQ(window.list->findChild<QTimer*>("HoverTimer"), nullptr);
-}
-
 TEST(ListAppearance, GridLinesHotTrackingAndHoverSelectionWhenSwitchedOn) {
     ListWindow window(
         {{"LISTVIEWSHOWGRID", "YES"}, {"LISTVIEWHOT", "YES"}, {"LISTVIEWHOVER", "YES"}});
