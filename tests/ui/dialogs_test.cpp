@@ -7,10 +7,13 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "platform/file_error.h"
 #include "support/temp_folder.h"
+#include "ui/command_guard.h"
 #include "ui/doubledetect.h"
 #include "ui/file_dialog.h"
 #include "ui/text_codec.h"
+#include "ui/zvx_application.h"
 
 namespace zvx {
 namespace {
@@ -74,6 +77,25 @@ TEST(FileDialog, AllFilesTakesNamesWithoutADot) {
 TEST(TextCodec, Windows1252FieldsShowTheirLetters) {
     EXPECT_EQ(ToQString("caf\xE9 \x80"), QString::fromUtf8("café €"));
     EXPECT_EQ(ToQString("café"), QString::fromUtf8("café"));
+}
+
+TEST(ZvxApplication, AnExceptionEscapingAnEventHandlerIsToldAndTheLoopGoesOn) {
+    auto& app = static_cast<ZvxApplication&>(*QApplication::instance());
+    std::vector<ErrorReport> told;
+    app.onException = [&told](std::exception_ptr error) { told.push_back(ReportOf(error)); };
+    QTimer::singleShot(0, [] { throw FileError(61, "/full/disk", "write /full/disk: no space"); });
+    QTimer::singleShot(0, [] { throw std::bad_alloc(); });
+    QTimer::singleShot(0, [] { throw std::logic_error("a broken rule"); });
+    bool wentOn = false;
+    QTimer::singleShot(5, [&wentOn] { wentOn = true; });
+    QTimer::singleShot(100, [] { QApplication::exit(0); });
+    QApplication::exec();
+    app.onException = nullptr;
+    ASSERT_EQ(told.size(), 3u);
+    EXPECT_EQ(ErrorBoxText(told[0]), "Error 61: write /full/disk: no space");
+    EXPECT_EQ(told[1].number, 7);
+    EXPECT_EQ(ErrorBoxText(told[2]), "Error 51: a broken rule");
+    EXPECT_TRUE(wentOn);
 }
 
 }  // namespace
