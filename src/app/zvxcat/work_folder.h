@@ -1,11 +1,18 @@
 #pragma once
 // The private folder for this process's temporary files. Removed with everything in it
 // when the object goes, on error paths too, so that no run leaves files behind and no
-// run touches another's.
+// run touches another's. The run holds the folder's lock file for its whole life, so
+// that a folder whose run was killed can be told from a live one: making a work folder
+// first clears those that dead runs left.
 
 #include <filesystem>
 
+#include "platform/held_file.h"
+
 namespace zvx::cat {
+
+// The lock file inside each work folder.
+inline constexpr const char* kWorkFolderLock = "zvxcat.lock";
 
 class WorkFolder {
   public:
@@ -19,6 +26,7 @@ class WorkFolder {
 
   private:
     std::filesystem::path path_;
+    FileHold hold_;
 };
 
 }  // namespace zvx::cat
