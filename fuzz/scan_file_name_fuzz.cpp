@@ -1,8 +1,9 @@
 // Any bytes, taken as a file's path in catalogue form, go through the file-name scan.
 // The first byte picks the settings: bit 0 the folder scan, bit 1 the song title
 // priority, the bits above it one of a few schemes. No field keeps blanks around it or
-// holds a "\", the title and producer come from the name with "_" made blanks, and a
-// track is a number from 1 to 9999.
+// holds a "\", the title and producer come from the name with "_" made blanks, a track
+// is a number from 1 to 9999, and a path in UTF-8 gives fields in UTF-8 (no cut splits a
+// character).
 
 #include <array>
 #include <cstddef>
@@ -13,6 +14,7 @@
 #include "common/common.h"
 #include "common/field_text.h"
 #include "common/numeric_value.h"
+#include "common/text_case.h"
 #include "fuzz_check.h"
 #include "fuzz_folder.h"
 #include "metadata/scan_file_name.h"
@@ -36,10 +38,12 @@ void CheckField(const std::string& field) {
     Require(field.find('\\') == std::string::npos, "a scanned field holds no \\");
 }
 
-void CheckScan(const zvx::ScanValues& scan) {
-    for (const std::string* field :
-         {&scan.ScanArtist, &scan.ScanTitle, &scan.ScanAlbum, &scan.ScanProducer, &scan.ScanTrack})
+void CheckScan(const zvx::ScanValues& scan, bool utf8) {
+    for (const std::string* field : {&scan.ScanArtist, &scan.ScanTitle, &scan.ScanAlbum,
+                                     &scan.ScanProducer, &scan.ScanTrack}) {
         CheckField(*field);
+        Require(!utf8 || zvx::IsValidUtf8(*field), "a UTF-8 path gives UTF-8 fields");
+    }
     Require(scan.ScanTitle.find('_') == std::string::npos &&
                 scan.ScanProducer.find('_') == std::string::npos,
             "title and producer come from the name with \"_\" made blanks");
@@ -59,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     Configure(common.settings, data[0]);
     const std::string_view path(reinterpret_cast<const char*>(data) + 1, size - 1);
     zvx::ScanFileName(common, path);
-    CheckScan(common.scan);
+    CheckScan(common.scan, zvx::IsValidUtf8(path));
     Require(zvx::LeadingDigitCount(path) >= 2, "a leading digit count is at least 2");
     return 0;
 }

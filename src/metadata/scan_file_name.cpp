@@ -34,12 +34,37 @@ std::vector<std::string> SchemePieces(std::string_view scheme) {
     return pieces;
 }
 
-// A character takes one to four bytes, so only a text of 5 to 16 bytes needs counting.
-bool AtMostFourCharacters(std::string_view text) {
-    if (text.size() <= 4)
-        return true;
-    return text.size() <= 16 && Characters(text).size() <= 4;
-}
+// A name that is valid UTF-8 counts a sequence as one character, any other name one
+// byte a character (Windows-1252). The whole name decides, so that each of its parts is
+// counted the same way.
+class NameCharacters {
+  public:
+    explicit NameCharacters(std::string_view name) : utf8_(IsValidUtf8(name)) {}
+
+    // A character takes one to four bytes, so only a text of 5 to 16 bytes needs counting.
+    bool atMostFour(std::string_view text) const {
+        if (text.size() <= 4)
+            return true;
+        return text.size() <= 16 && (utf8_ ? Characters(text).size() : text.size()) <= 4;
+    }
+
+    // The first `count` characters of a part of the name, fewer when it is shorter.
+    std::string_view first(std::string_view text, size_t count) const {
+        if (!utf8_)
+            return text.substr(0, count);
+        size_t bytes = 0;
+        for (std::string_view ch : Characters(text)) {
+            if (count == 0)
+                break;
+            bytes += ch.size();
+            --count;
+        }
+        return text.substr(0, bytes);
+    }
+
+  private:
+    bool utf8_;
+};
 
 std::string* FieldOf(ScanValues& scan, std::string_view role) {
     if (role == "$A")
@@ -68,6 +93,7 @@ class NameScanner {
     bool isShortNumber(std::string_view token) const;
 
     ScanValues& scan_;
+    NameCharacters characters_{""};
     std::vector<std::string> scheme_;
     // The roles that can take a token, in the order of their first position: walking
     // the positions would find the same first taker each time.
@@ -88,6 +114,7 @@ NameScanner::NameScanner(ScanValues& scan, std::string_view scheme)
 }
 
 void NameScanner::scan(std::string_view name) {
+    characters_ = NameCharacters(name);
     for (std::string_view token : DashPieces(name)) {
         // "A -- B" loses nothing and uses no position for the empty part.
         if (!Trim(token).empty())
@@ -99,7 +126,7 @@ bool NameScanner::isShortNumber(std::string_view token) const {
     if (!scan_.ScanTrack.empty())
         return false;
     double value = NumericValue(token);
-    return value >= 1 && value <= 9999 && AtMostFourCharacters(Trim(token));
+    return value >= 1 && value <= 9999 && characters_.atMostFour(Trim(token));
 }
 
 void NameScanner::takeToken(std::string token) {
@@ -113,17 +140,19 @@ void NameScanner::takeToken(std::string token) {
     placeByScheme(token);
 }
 
-// "07 Song" gives the track 7 and leaves " Song"; at most four digits are taken.
+// "07 Song" gives the track 7 and leaves " Song"; at most four digits are taken. The cut
+// counts characters, so "5é Song" loses the whole "é" with the "5".
 void NameScanner::takeLeadingNumber(std::string& token) {
     std::string_view left = LTrim(token);
-    if (left.size() < 2)
-        return;
-    size_t count = std::min(LeadingDigitCount(Trim(token)), 4);
-    double value = NumericValue(left.substr(0, count));
+    if (characters_.first(left, 1).size() == left.size())
+        return;  // fewer than two characters
+    const size_t count = std::min(LeadingDigitCount(left), 4);
+    std::string_view lead = characters_.first(left, count);
+    double value = NumericValue(lead);
     if (value < 1 || value > NumericValue(Right("9999", count)))
         return;
     scan_.ScanTrack = NumberText(value);
-    token = std::string(left.substr(count));
+    token = std::string(left.substr(lead.size()));
 }
 
 void NameScanner::placeByScheme(const std::string& token) {

@@ -59,6 +59,9 @@ TEST(ScanFileName, LeadingNumberIsCutOffItsPart) {
     // Above 9999 there is no short number; the first four digits are taken.
     EXPECT_EQ(Scan("c:\\x\\10000.mp3"), "|0|x||1000");
     EXPECT_EQ(Scan("c:\\x\\00 Song.mp3"), "|00 Song|x||");
+    // The cut takes characters: a UTF-8 letter goes whole, as a Windows-1252 one does.
+    EXPECT_EQ(Scan("c:\\x\\5\xC3\xA9 Song.mp3"), "|Song|x||5");
+    EXPECT_EQ(Scan("c:\\x\\5\xE9 Song.mp3"), "|Song|x||5");
 }
 
 TEST(ScanFileName, SchemeDecidesThePlaces) {
