@@ -83,7 +83,9 @@ EntryValues ComposeValues(const Common& common, std::string contentType) {
 void AddFileEntry(Common& common, const std::filesystem::path& cfn,
                   const std::filesystem::path& file, std::string_view folderId, bool detag,
                   bool checkDoubles) {
-    // The first touch of the file, where a missing one fails: all its facts at once.
+    // The first touch of the file, where a missing one fails: all its facts at once. It
+    // is also where every road of an add refuses what is not a regular file (a
+    // directory, FIFO, socket or device), before anything would open it.
     FileFacts facts;
     if (!RunFileStep(common, [&] { facts = ReadFileFacts(file); }))
         return;

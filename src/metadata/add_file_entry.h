@@ -12,7 +12,8 @@ class Common;
 // by the settings and appends the entry to `cfn` (with `checkDoubles` through the
 // duplicate check). `file` is the native path; the entry holds it in catalogue form.
 // A failing step brings FileErrorDialog: Retry repeats that step, Ignore skips the
-// file, Abort skips it and sets AbortAdding.
+// file, Abort skips it and sets AbortAdding. Only a regular file becomes an entry:
+// anything else fails the first step with 75 ("Error while accessing a directory!").
 void AddFileEntry(Common& common, const std::filesystem::path& cfn,
                   const std::filesystem::path& file, std::string_view folderId, bool detag,
                   bool checkDoubles);

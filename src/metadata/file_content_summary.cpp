@@ -8,6 +8,7 @@
 #include "metadata/genres.h"
 #include "metadata/id3_tag.h"
 #include "platform/line_reader.h"
+#include "platform/media_file.h"
 
 namespace zvx {
 
@@ -22,8 +23,8 @@ void MarkNotSet(std::string& value) {
 }
 
 // The tag values left empty read "<not set>" from now on, in the common module too.
-std::string TagSummary(Common& common, const std::filesystem::path& path) {
-    ReadID3Tag(common, path);
+std::string TagSummary(Common& common, const MediaFile& media) {
+    ReadID3Tag(common, media);
     TagValues& tag = common.id3;
     if (!tag.HasID3Tag)
         return "Tagged: no\r<Other track information is unknown>";
@@ -51,11 +52,14 @@ std::string FirstTextLines(const std::filesystem::path& path) {
 
 std::string SummaryByCategory(Common& common, const std::filesystem::path& path,
                               std::string_view category) {
-    if (category == "mp3")
-        return TagSummary(common, path);
-    if (category == "txt")
-        return FirstTextLines(path);
-    return {};
+    if (category != "mp3" && category != "txt")
+        return {};
+    // Only a regular file that opens is read: a FIFO would stall the text reader, and the
+    // tag reader passes over a file it cannot open, keeping the previous file's
+    // HasID3Tag.
+    const MediaFile media(path);
+    media.requireReadable();
+    return category == "mp3" ? TagSummary(common, media) : FirstTextLines(path);
 }
 
 }  // namespace

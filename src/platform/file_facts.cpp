@@ -29,6 +29,8 @@ FileFacts ReadFileFacts(const std::filesystem::path& path) {
     struct stat info;
     if (::stat(path.c_str(), &info) != 0)
         ThrowFileError("Cannot read the attributes of", path);
+    if (!S_ISREG(info.st_mode))
+        ThrowNotAFile(path);
     return {(info.st_mode & S_IWUSR) == 0, static_cast<uint64_t>(info.st_size),
             DateText(info.st_mtime), info.st_dev};
 }

@@ -19,7 +19,8 @@ struct FileFacts {
 };
 
 // Throws FileError when the file cannot be read: a missing file 53, a missing folder on
-// its path 76, no permission 70.
+// its path 76, no permission 70. Only a regular file has facts for an entry: a
+// directory, FIFO, socket or device throws kNotAFileNumber.
 FileFacts ReadFileFacts(const std::filesystem::path& path);
 
 }  // namespace zvx

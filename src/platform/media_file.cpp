@@ -14,14 +14,26 @@ namespace zvx {
 
 MediaFile::MediaFile(std::filesystem::path path) : path_(std::move(path)) {
     struct stat info;
-    fd_ = ::open(path_.c_str(), O_RDONLY | O_CLOEXEC);
+    exists_ = ::stat(path_.c_str(), &info) == 0;
+    if (!exists_) {
+        openError_ = errno;
+        return;
+    }
+    size_ = static_cast<uint64_t>(info.st_size);
+    // Opening a FIFO for reading waits for a writer, and opening a device may act on it:
+    // only a regular file is opened. O_NONBLOCK keeps the open from waiting should the
+    // name have become a FIFO since.
+    regular_ = S_ISREG(info.st_mode);
+    if (!regular_)
+        return;
+    fd_ = ::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd_ < 0) {
         openError_ = errno;
-        exists_ = ::stat(path_.c_str(), &info) == 0;
-    } else {
-        exists_ = ::fstat(fd_, &info) == 0;
+    } else if (::fstat(fd_, &info) == 0 && !S_ISREG(info.st_mode)) {
+        regular_ = false;
+        ::close(fd_);
+        fd_ = -1;
     }
-    size_ = exists_ ? static_cast<uint64_t>(info.st_size) : 0;
 }
 
 MediaFile::~MediaFile() {
@@ -34,6 +46,7 @@ MediaFile::MediaFile(MediaFile&& other) noexcept
       fd_(std::exchange(other.fd_, -1)),
       openError_(other.openError_),
       exists_(other.exists_),
+      regular_(other.regular_),
       size_(other.size_) {}
 
 MediaFile& MediaFile::operator=(MediaFile&& other) noexcept {
@@ -44,16 +57,23 @@ MediaFile& MediaFile::operator=(MediaFile&& other) noexcept {
         fd_ = std::exchange(other.fd_, -1);
         openError_ = other.openError_;
         exists_ = other.exists_;
+        regular_ = other.regular_;
         size_ = other.size_;
     }
     return *this;
 }
 
-std::string MediaFile::readAt(uint64_t offset, size_t count) const {
+void MediaFile::requireReadable() const {
+    if (exists_ && !regular_)
+        ThrowNotAFile(path_);
     if (fd_ < 0) {
         errno = openError_;
         ThrowFileError("Cannot open", path_);
     }
+}
+
+std::string MediaFile::readAt(uint64_t offset, size_t count) const {
+    requireReadable();
     return ReadBytesAt(fd_, offset, count, path_);
 }
 

@@ -11,7 +11,8 @@ namespace zvx {
 class MediaFile {
   public:
     // Never throws. A file that cannot be opened keeps the reason for its first read;
-    // its length may still be known (a file without read permission).
+    // its length may still be known (a file without read permission). Anything but a
+    // regular file (a directory, FIFO, socket or device) is never opened.
     explicit MediaFile(std::filesystem::path path);
     ~MediaFile();
     MediaFile(MediaFile&& other) noexcept;
@@ -21,8 +22,11 @@ class MediaFile {
     // Whether asking for the file's length succeeded (MP3FileExists).
     bool exists() const { return exists_; }
     uint64_t size() const { return size_; }
+    // Throws the FileError that keeps the file from being read: kNotAFileNumber for
+    // anything but a regular file, else the reason the opening failed.
+    void requireReadable() const;
     // Up to `count` bytes from the 0-based `offset`, fewer at the end of the file.
-    // Throws FileError when the file could not be opened or read.
+    // Throws FileError when the file could not be opened (requireReadable) or read.
     std::string readAt(uint64_t offset, size_t count) const;
 
   private:
@@ -30,6 +34,7 @@ class MediaFile {
     int fd_ = -1;
     int openError_ = 0;
     bool exists_ = false;
+    bool regular_ = false;
     uint64_t size_ = 0;
 };
 

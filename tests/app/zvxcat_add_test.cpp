@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -130,6 +132,26 @@ TEST(ZvxcatAdd, AVanishedFileIsSkippedOrEndsTheRunKeepingWhatWasAdded) {
                                                       : std::vector<std::string>{"a.mp3"};
         EXPECT_EQ(Column(box, {"ls", file, "Music"}), kept);
     }
+}
+
+TEST(ZvxcatAdd, OnlyRegularFilesBecomeEntriesAndIgnorePassesOverTheRest) {
+    ToolSandbox box;
+    WriteAll(box / "c.zvx", kMusic);
+    WriteMp3(box / "n" / "a.mp3", 1000);
+    ASSERT_EQ(::mkfifo((box / "pipe.mp3").c_str(), 0600), 0);
+    fs::create_symlink("loop.mp3", box / "loop.mp3");
+    ToolResult result = box.run({"add", "c.zvx", "Music", "n", "n/.", "n/..", "pipe.mp3",
+                                 "loop.mp3", "n/a.mp3", "--on-error", "ignore"});
+    ExpectSuccess(result);
+    // "n/." and "n/.." name the "." and ".." that the list drops without a word; the
+    // folder, the FIFO and the link loop are told and passed over.
+    size_t told = 0;
+    for (size_t at = 0;
+         (at = result.err.find("<Error while accessing a directory!>", at)) != std::string::npos;
+         ++at)
+        ++told;
+    EXPECT_EQ(told, 3u) << result.err;
+    EXPECT_EQ(Column(box, {"ls", "c.zvx", "Music"}), std::vector<std::string>{"a.mp3"});
 }
 
 TEST(ZvxcatAdd, TheCatalogueIsReplacedOnlyAtTheEnd) {

@@ -1,5 +1,7 @@
 #include "metadata/add_file_entry.h"
 
+#include <sys/stat.h>
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -177,6 +179,23 @@ TEST(AddFileEntry, AVanishedFileAsksAndIgnoreSkipsIt) {
     EXPECT_EQ(box.buttons, MsgButtons::AbortRetryIgnore);
     EXPECT_FALSE(f.env.common.AbortAdding);
     EXPECT_TRUE(f.lines().empty());
+}
+
+TEST(AddFileEntry, ADirectoryOrAFifoIsNoEntryButAnErrorToPassOver) {
+    AddFixture f;
+    std::filesystem::create_directory(f.medium / "folder");
+    ASSERT_EQ(::mkfifo((f.medium / "pipe.mp3").c_str(), 0600), 0);
+    f.env.screen.answerMessage(MsgAnswer::Ignore);
+    f.env.screen.answerMessage(MsgAnswer::Ignore);
+    f.add(f.medium / "folder");
+    f.add(f.medium / "pipe.mp3");
+    EXPECT_TRUE(f.lines().empty());
+    ASSERT_EQ(f.env.screen.shown.size(), 2u);
+    for (const test::Shown& box : f.env.screen.shown) {
+        EXPECT_NE(box.text.find("<Error while accessing a directory!>"), std::string::npos);
+        EXPECT_EQ(box.buttons, MsgButtons::AbortRetryIgnore);
+    }
+    EXPECT_FALSE(f.env.common.AbortAdding);
 }
 
 TEST(AddFileEntry, AbortSkipsTheFileAndTellsTheRun) {

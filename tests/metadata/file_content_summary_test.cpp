@@ -1,5 +1,7 @@
 #include "metadata/file_content_summary.h"
 
+#include <sys/stat.h>
+
 #include <gtest/gtest.h>
 
 #include "support/temp_folder.h"
@@ -66,6 +68,21 @@ TEST(FileContentSummary, TheTagOfAnMp3File) {
     WriteAll(env.folder / "c.mp3", std::string(128, 'x'));
     EXPECT_EQ(FileContentSummary(env.common, env.folder / "c.mp3", "mp3"),
               "Tagged: no\r<Other track information is unknown>");
+}
+
+TEST(FileContentSummary, AFileThatCannotBeReadGivesTheErrorText) {
+    TestEnvironment env;
+    WriteAll(env.folder / "a.mp3", TaggedFile("Song", "Band", 17));
+    FileContentSummary(env.common, env.folder / "a.mp3", "mp3");
+    // Nothing of the tagged file before shows for a missing one.
+    const auto gone = env.folder / "gone.mp3";
+    EXPECT_EQ(FileContentSummary(env.common, gone, "mp3"),
+              "Error while retrieving ZVX-Content information for: " + gone.string() + " (mp3)");
+    // A FIFO is never opened: it would wait for a writer.
+    const auto fifo = env.folder / "pipe.txt";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    EXPECT_EQ(FileContentSummary(env.common, fifo, "txt"),
+              "Error while retrieving ZVX-Content information for: " + fifo.string() + " (txt)");
 }
 
 }  // namespace

@@ -8,9 +8,11 @@
 #include <ctime>
 #include <functional>
 #include <optional>
+#include <set>
 
 #include "platform/file_error.h"
 #include "platform/file_facts.h"
+#include "platform/media_file.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
@@ -99,6 +101,41 @@ TEST(FileFacts, AFolderWithoutPermissionIsAccessDenied) {
     fs::permissions(folder / "closed", fs::perms::none);
     EXPECT_EQ(ErrorNumberOf([&] { ReadFileFacts(folder / "closed" / "a.mp3"); }), 70);
     fs::permissions(folder / "closed", fs::perms::owner_all);
+}
+
+TEST(FileFacts, OnlyARegularFileIsReadAndNothingElseIsOpened) {
+    test::TempFolder folder;
+    const fs::path fifo = folder / "pipe.mp3";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    fs::create_directory(folder / "dir.mp3");
+    EXPECT_EQ(ErrorNumberOf([&] { ReadFileFacts(folder / "dir.mp3"); }), kNotAFileNumber);
+    EXPECT_EQ(ErrorNumberOf([&] { ReadFileFacts(fifo); }), kNotAFileNumber);
+    // Opening the FIFO would wait for a writer for ever.
+    const MediaFile media(fifo);
+    EXPECT_TRUE(media.exists());
+    EXPECT_EQ(ErrorNumberOf([&] { media.readAt(0, 4); }), kNotAFileNumber);
+    EXPECT_EQ(ErrorNumberOf([&] { MediaFile(folder / "dir.mp3").readAt(0, 4); }), kNotAFileNumber);
+
+    // A name the system cannot resolve is a path error the user may pass over.
+    fs::create_symlink("loop.mp3", folder / "loop.mp3");
+    EXPECT_EQ(ErrorNumberOf([&] { ReadFileFacts(folder / "loop.mp3"); }), 75);
+    EXPECT_EQ(ErrorNumberOf([&] { ReadFileFacts(folder / std::string(300, 'n')); }), 75);
+}
+
+TEST(FileError, EveryErrnoMapsByMeaningToANumberWhoseDialogOffersIgnore) {
+    EXPECT_EQ(ErrorNumberFromErrno(ENOENT), 53);
+    EXPECT_EQ(ErrorNumberFromErrno(ENOTDIR), 76);
+    EXPECT_EQ(ErrorNumberFromErrno(EACCES), 70);
+    EXPECT_EQ(ErrorNumberFromErrno(EIO), 57);
+    EXPECT_EQ(ErrorNumberFromErrno(EDQUOT), 61);
+    EXPECT_EQ(ErrorNumberFromErrno(EMFILE), 55);
+    EXPECT_EQ(ErrorNumberFromErrno(ESTALE), 68);
+    EXPECT_EQ(ErrorNumberFromErrno(ENOMEDIUM), 71);
+    EXPECT_EQ(ErrorNumberFromErrno(ENAMETOOLONG), 75);
+    EXPECT_EQ(ErrorNumberFromErrno(ENOEXEC), 57);  // no nearer meaning
+    const std::set<int> offersIgnore{53, 55, 57, 61, 68, 70, 71, 75, 76};
+    for (int err = 0; err < 200; ++err)
+        EXPECT_TRUE(offersIgnore.count(ErrorNumberFromErrno(err))) << "errno " << err;
 }
 
 }  // namespace

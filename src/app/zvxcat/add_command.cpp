@@ -23,7 +23,7 @@ void RunAdd(const Arguments& arguments, Common& common, std::ostream&) {
     const int folder = RequireFolder(tree, arguments.positional[1], catalogue.file());
     std::vector<InsertRow> rows;
     for (size_t i = 2; i < arguments.positional.size(); ++i)
-        listmore(rows, NativePathArgument(arguments.positional[i]).string());
+        listmore(rows, NativeFileArgument(arguments.positional[i]).string());
     dataact(rows);
     const std::filesystem::path& cfn = catalogue.openWorkingCopy();
     InsertRun(common, cfn, tree.nodes[static_cast<size_t>(folder)].id(), rows,

@@ -54,4 +54,12 @@ std::filesystem::path NativePathArgument(const std::string& text) {
     return path;
 }
 
+std::filesystem::path NativeFileArgument(const std::string& text) {
+    const size_t slash = text.rfind('/');
+    const std::string name = slash == std::string::npos ? text : text.substr(slash + 1);
+    if (name != "." && name != "..")
+        return NativePathArgument(text);
+    return NativePathArgument(slash == std::string::npos ? "." : text.substr(0, slash + 1)) / name;
+}
+
 }  // namespace zvx::cat

@@ -45,4 +45,9 @@ void RequirePositionalCount(const Arguments& arguments, size_t least, size_t mos
 // A native path argument, made absolute against the working folder.
 std::filesystem::path NativePathArgument(const std::string& text);
 
+// A native path argument that names a file to add, made absolute the same way, but with
+// a last name "." or ".." kept as given: "n/." names the "." the insert list passes
+// over, not a file "n".
+std::filesystem::path NativeFileArgument(const std::string& text);
+
 }  // namespace zvx::cat
