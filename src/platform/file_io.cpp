@@ -7,17 +7,23 @@
 #include <cerrno>
 #include <cstdlib>
 #include <system_error>
+#include <utility>
 
 #include "platform/file_error.h"
+#include "platform/file_faults.h"
 
 namespace zvx {
 
 namespace {
 
+// Buffer of a copy and of AppendWriter: large writes, few system calls.
+constexpr size_t kBlockSize = 1 << 20;
+
 class Fd {
   public:
     Fd(const std::filesystem::path& path, int flags, const char* operation) {
-        fd_ = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+        const bool writing = (flags & O_ACCMODE) != O_RDONLY;
+        fd_ = writing ? OpenForWriting(path, flags) : ::open(path.c_str(), flags | O_CLOEXEC);
         if (fd_ < 0)
             ThrowFileError(operation, path);
     }
@@ -31,16 +37,9 @@ class Fd {
     int fd_;
 };
 
-void WriteAll(int fd, std::string_view bytes, uint64_t offset, const std::filesystem::path& path) {
-    while (!bytes.empty()) {
-        ssize_t done = ::pwrite(fd, bytes.data(), bytes.size(), static_cast<off_t>(offset));
-        if (done < 0 && errno == EINTR)
-            continue;
-        if (done <= 0)
-            ThrowFileError("Cannot write", path);
-        bytes.remove_prefix(static_cast<size_t>(done));
-        offset += static_cast<uint64_t>(done);
-    }
+void WriteAll(int fd, std::string_view bytes, off_t offset, const std::filesystem::path& path) {
+    if (WriteSome(fd, bytes, offset) != bytes.size())
+        ThrowFileError("Cannot write", path);
 }
 
 void SyncFolderOf(const std::filesystem::path& path) {
@@ -56,7 +55,7 @@ void SyncFolderOf(const std::filesystem::path& path) {
 std::filesystem::path CopyBeside(const std::filesystem::path& source,
                                  const std::filesystem::path& target) {
     std::string name = target.string() + ".XXXXXX";
-    int fd = ::mkstemp(name.data());
+    int fd = FileFaultDue(FileFault::OpenForWriting) ? -1 : ::mkstemp(name.data());
     if (fd < 0)
         ThrowFileError("Cannot create a file beside", target);
     ::close(fd);
@@ -117,7 +116,7 @@ std::string ReadBytesAt(int fd, uint64_t offset, size_t count, const std::filesy
 
 void WriteFileBytes(const std::filesystem::path& path, uint64_t offset, std::string_view bytes) {
     Fd fd(path, O_WRONLY | O_CREAT, "Cannot open");
-    WriteAll(fd.get(), bytes, offset, path);
+    WriteAll(fd.get(), bytes, static_cast<off_t>(offset), path);
 }
 
 void WriteEmptyFile(const std::filesystem::path& path) {
@@ -143,13 +142,22 @@ uint64_t FileLength(const std::filesystem::path& path) {
     return size;
 }
 
+// The copy takes the permissions of `from`, as a file system copy does.
 void CopyFileBytes(const std::filesystem::path& from, const std::filesystem::path& to) {
-    std::error_code ec;
-    std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, ec);
-    if (ec) {
-        errno = ec.value();
-        ThrowFileError("Cannot copy to", to);
+    Fd in(from, O_RDONLY, "Cannot open");
+    struct stat info;
+    if (::fstat(in.get(), &info) != 0)
+        ThrowFileError("Cannot read the attributes of", from);
+    Fd out(to, O_WRONLY | O_CREAT | O_TRUNC, "Cannot copy to");
+    std::string block;
+    for (uint64_t offset = 0;; offset += block.size()) {
+        block = ReadBytesAt(in.get(), offset, kBlockSize, from);
+        if (block.empty())
+            break;
+        WriteAll(out.get(), block, static_cast<off_t>(offset), to);
     }
+    if (::fchmod(out.get(), info.st_mode & 07777) != 0)
+        ThrowFileError("Cannot set the mode of", to);
 }
 
 void ReplaceFile(const std::filesystem::path& source, const std::filesystem::path& target) {
@@ -178,22 +186,24 @@ void CopyFileSafely(const std::filesystem::path& from, const std::filesystem::pa
 }
 
 AppendWriter::AppendWriter(const std::filesystem::path& path) : path_(path) {
-    file_ = std::fopen(path.c_str(), "ab");
-    if (!file_)
+    fd_ = OpenForWriting(path, O_WRONLY | O_CREAT | O_APPEND);
+    if (fd_ < 0)
         ThrowFileError("Cannot open", path);
-    std::setvbuf(file_, nullptr, _IOFBF, 1 << 20);
+    buffer_.reserve(kBlockSize);
 }
 
 AppendWriter::~AppendWriter() {
-    if (file_)
-        std::fclose(file_);
+    if (fd_ >= 0)
+        ::close(fd_);
 }
 
 void AppendWriter::write(std::string_view bytes) {
-    if (bytes.empty())
-        return;
-    if (std::fwrite(bytes.data(), 1, bytes.size(), file_) != bytes.size())
-        ThrowFileError("Cannot write", path_);
+    if (buffer_.size() + bytes.size() > kBlockSize)
+        flush();
+    if (bytes.size() >= kBlockSize)
+        WriteAll(fd_, bytes, -1, path_);
+    else
+        buffer_.append(bytes);
 }
 
 void AppendWriter::writeLine(std::string_view line) {
@@ -201,18 +211,19 @@ void AppendWriter::writeLine(std::string_view line) {
     write("\r\n");
 }
 
-void AppendWriter::close() {
-    if (!file_)
+void AppendWriter::flush() {
+    if (buffer_.empty())
         return;
-    std::FILE* file = file_;
-    file_ = nullptr;
-    bool failed = std::fflush(file) != 0;
-    int err = errno;
-    if (std::fclose(file) != 0 || failed) {
-        if (failed)
-            errno = err;
+    WriteAll(fd_, buffer_, -1, path_);
+    buffer_.clear();
+}
+
+void AppendWriter::close() {
+    if (fd_ < 0)
+        return;
+    flush();
+    if (::close(std::exchange(fd_, -1)) != 0)
         ThrowFileError("Cannot write", path_);
-    }
 }
 
 }  // namespace zvx

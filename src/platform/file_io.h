@@ -2,7 +2,6 @@
 // Whole-file operations the store builds on. Every failure throws FileError.
 
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -33,7 +32,8 @@ void ReplaceFile(const std::filesystem::path& source, const std::filesystem::pat
 // complete. An existing `to` keeps its permissions, and a symbolic link is followed.
 void CopyFileSafely(const std::filesystem::path& from, const std::filesystem::path& to);
 
-// Appends to a file (creating it) through a large buffer.
+// Appends to a file (creating it) through a large buffer. A failed write leaves the file
+// with part of what was written; the writers of whole new files use it.
 class AppendWriter {
   public:
     explicit AppendWriter(const std::filesystem::path& path);
@@ -48,8 +48,11 @@ class AppendWriter {
     void close();
 
   private:
+    void flush();
+
     std::filesystem::path path_;
-    std::FILE* file_ = nullptr;
+    int fd_ = -1;
+    std::string buffer_;
 };
 
 }  // namespace zvx
