@@ -296,11 +296,7 @@ void cdwizard::command2_Click() {
     choices.topIcon = ImageCombo1_->currentData().toInt();
     choices.subIcon = ImageCombo2_->currentData().toInt();
     hide();
-    try {
-        AddTree(common_, document_.cfn(), choices);
-    } catch (const FileError& error) {
-        common_.screen().message("Error.", error.what(), MsgButtons::OkOnly, MsgIcon::Critical);
-    }
+    AddTree(common_, document_.cfn(), choices);
     document_.refresh_Click();
     KillTempFiles(common_);
     accept();

@@ -1,5 +1,6 @@
 #include "adding/tree_adding.h"
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -12,6 +13,8 @@
 #include "platform/directory_walk.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
+#include "platform/open_file.h"
+#include "store/catalogue_format.h"
 #include "store/duplicate_index.h"
 #include "store/folder_id.h"
 #include "store/toc.h"
@@ -24,6 +27,8 @@ namespace {
 constexpr const char* kTempToc = "temptoc.tmp";
 constexpr const char* kTempCt = "tempct.tmp";
 constexpr const char* kTempFil = "tempfil.tmp";
+// New TOC groups wait in memory up to this size; temptoc.tmp gets them in one write.
+constexpr size_t kTocBlock = 1 << 20;
 
 std::string WithSlash(std::string path) {
     if (!path.ends_with('/'))
@@ -44,13 +49,16 @@ long long FirstLevelCount(const std::string& root, dev_t device) {
 class TreeWalk {
   public:
     TreeWalk(Common& common, const std::filesystem::path& cfn, const TreeAddingChoices& choices)
-        : common_(common), cfn_(cfn), choices_(choices), newToc_(common.workFile(kTempToc)) {}
+        : common_(common), cfn_(cfn), choices_(choices) {}
 
-    void run();
+    TreeAddingResult run();
 
   private:
+    void prepare();
     void LoadFolderCache();
     std::string CachedFolderID(const std::string& tocPath) const;
+    void writeNewToc();
+    void mergeNewToc();
     void MakeParentalFolder();
     std::string NewFolder(const std::string& tocPath, const std::string& description, int icon);
     void AddDirectory(const std::string& path);
@@ -61,8 +69,11 @@ class TreeWalk {
     Common& common_;
     const std::filesystem::path& cfn_;
     const TreeAddingChoices& choices_;
-    AppendWriter newToc_;
-    std::unordered_map<std::string, std::string> cache_;  // Listbuf and idbuf
+    std::optional<OpenFile> newToc_;  // temptoc.tmp
+    std::string newTocPending_;       // groups not written to it yet
+    // Listbuf and idbuf: TOC paths as they stand and lower-cased, with their IDs.
+    std::unordered_map<std::string, std::string> exactCache_;
+    std::unordered_map<std::string, std::string> foldedCache_;
     std::string walkRoot_;
     std::string parentTocPath_;
     std::string currentFolderId_;
@@ -70,25 +81,63 @@ class TreeWalk {
     dev_t device_ = 0;
 };
 
+// Reads what the run starts from and makes its temporary files.
+void TreeWalk::prepare() {
+    ScanHighestFolderID(common_, cfn_);
+    LoadFolderCache();
+    newToc_.reset();
+    WriteEmptyFile(common_.workFile(kTempToc));
+    WriteEmptyFile(common_.workFile(kTempCt));
+    newToc_.emplace(common_.workFile(kTempToc));
+    device_ = DeviceOf(choices_.root);
+}
+
 void TreeWalk::LoadFolderCache() {
-    for (TocGroup& group : ReadTocGroups(cfn_))
-        cache_.emplace(LowerCase(group.path), std::move(group.id));
+    exactCache_.clear();
+    foldedCache_.clear();
+    for (const TocGroup& group : ReadTocGroups(cfn_)) {
+        exactCache_.emplace(group.path, group.id);
+        foldedCache_.emplace(LowerCase(group.path), group.id);
+    }
 }
 
 // Paths are compared as the TOC holds them: bytes that may not stand in a line are
 // blanks there, so a directory named with a line break is found again by a re-run.
+// Linux names differ by case, so a folder of the very name wins over one that differs
+// only in case; that one serves a directory whose folder exists in another case only.
 std::string TreeWalk::CachedFolderID(const std::string& tocPath) const {
-    auto found = cache_.find(LowerCase(CleanFieldText(tocPath)));
-    return found == cache_.end() ? std::string() : found->second;
+    const std::string clean = CleanFieldText(tocPath);
+    auto found = exactCache_.find(clean);
+    if (found != exactCache_.end())
+        return found->second;
+    found = foldedCache_.find(LowerCase(clean));
+    return found == foldedCache_.end() ? std::string() : found->second;
 }
 
+// A block that fails leaves temptoc.tmp as it was and the groups waiting.
+void TreeWalk::writeNewToc() {
+    if (newTocPending_.empty())
+        return;
+    newToc_->append(newTocPending_, OpenFile::Keep::Nothing);
+    newTocPending_.clear();
+}
+
+void TreeWalk::mergeNewToc() {
+    writeNewToc();
+    newToc_->close();
+    MergeTocGroups(common_, cfn_, common_.workFile(kTempToc));
+}
+
+// The folder's ID, or an empty text when the groups waiting could not be written and
+// the user gave the folder up.
 std::string TreeWalk::NewFolder(const std::string& tocPath, const std::string& description,
                                 int icon) {
+    if (newTocPending_.size() >= kTocBlock && !RunFileStep(common_, [&] { writeNewToc(); }))
+        return "";
     std::string id = NextFolderID(common_);
     const TocGroup group = MakeTocGroup(tocPath, description, icon, id);
-    newToc_.writeLine(group.path);
-    newToc_.writeLine(group.descriptionLine);
-    newToc_.writeLine(group.id);
+    for (const std::string* line : {&group.path, &group.descriptionLine, &group.id})
+        newTocPending_.append(*line).append(kLineEnd);
     return id;
 }
 
@@ -119,12 +168,17 @@ void TreeWalk::EnterFolder(const std::string& path) {
     }
 }
 
+// A failure that AddFileEntry does not ask about itself is asked about here: nothing of
+// the file is written before its last step.
 void TreeWalk::AddDirectoryFiles(const std::string& path, const std::vector<std::string>& names) {
     const bool checkDoubles = !folderIsNew_;
     for (const std::string& name : names) {
         if (common_.AbortAdding)
             break;
-        AddFileEntry(common_, cfn_, path + name, currentFolderId_, choices_.detag, checkDoubles);
+        RunFileStep(common_, [&] {
+            AddFileEntry(common_, cfn_, path + name, currentFolderId_, choices_.detag,
+                         checkDoubles);
+        });
     }
     if (common_.AbortAdding) {
         std::string shown = path.size() > 1 ? path.substr(0, path.size() - 1) : path;
@@ -135,14 +189,15 @@ void TreeWalk::AddDirectoryFiles(const std::string& path, const std::vector<std:
 }
 
 // One listing of the directory serves its files and its sub-directories; one that
-// cannot be listed is asked about once, and an abort then skips its files.
+// cannot be listed is asked about once, and an abort then skips its files, as an abort
+// of its folder does.
 void TreeWalk::AddDirectory(const std::string& path) {
+    common_.AbortAdding = false;
     if (choices_.realFolders && path.size() > walkRoot_.size())
         EnterFolder(path);
     DirectoryListing listing;
-    common_.AbortAdding = false;
     RunFileStep(common_, [&] { listing = ListDirectory(path, device_, choices_.pattern); });
-    if (!currentFolderId_.empty())
+    if (!currentFolderId_.empty() || common_.AbortAdding)
         AddDirectoryFiles(path, listing.files);
     common_.AbortAdding = false;
     const bool topLevel = common_.progressValue == 0;
@@ -154,14 +209,13 @@ void TreeWalk::AddDirectory(const std::string& path) {
     folderIsNew_ = false;
 }
 
-void TreeWalk::run() {
+TreeAddingResult TreeWalk::run() {
     status("Tree-Adding in progress (cashing used Folder IDs)...");
     common_.DuplicateChoice.clear();
     common_.volumeLabels.reset();
     folderIsNew_ = false;
-    ScanHighestFolderID(common_, cfn_);
-    LoadFolderCache();
-    WriteEmptyFile(common_.workFile(kTempCt));
+    if (!RunStepOfRun(common_, [&] { prepare(); }))
+        return {false, false};
     if (choices_.addAsSubData)
         parentTocPath_ = choices_.selectedFolderPath + "\\";
     if (choices_.makeParental)
@@ -171,28 +225,30 @@ void TreeWalk::run() {
 
     status("Tree-Adding in progress (recursive directory-adding)...");
     walkRoot_ = WithSlash(choices_.root.string());
-    device_ = DeviceOf(choices_.root);
     common_.setProgressMax(FirstLevelCount(walkRoot_, device_) + 1);
     common_.setProgress(0);
+    TreeAddingResult result;
     {
         AddRunScope duplicates(common_, cfn_);
         AddDirectory(walkRoot_);
-        duplicates.end();
+        result.entriesWritten = RunStepOfRun(common_, [&] { duplicates.end(); });
+        if (!result.entriesWritten)
+            duplicates.abandon();
     }
     common_.setProgress(0);
-    newToc_.close();
 
     status("Tree-Adding in progress (toc-editing)...");
-    MergeTocGroups(common_, cfn_, common_.workFile(kTempToc));
+    result.foldersMerged = RunStepOfRun(common_, [&] { mergeNewToc(); });
     status("");
+    return result;
 }
 
 }  // namespace
 
-void AddTree(Common& common, const std::filesystem::path& cfn, const TreeAddingChoices& choices) {
-    WriteEmptyFile(common.workFile(kTempToc));
+TreeAddingResult AddTree(Common& common, const std::filesystem::path& cfn,
+                         const TreeAddingChoices& choices) {
     TreeWalk walk(common, cfn, choices);
-    walk.run();
+    return walk.run();
 }
 
 void KillTempFiles(const Common& common) {

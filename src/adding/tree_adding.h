@@ -25,11 +25,20 @@ struct TreeAddingChoices {
     int subIcon = 1;                 // ImageCombo2's image number
 };
 
+// How a run ended. Without the merge the entries of new folders are in the catalogue but
+// belong to no folder.
+struct TreeAddingResult {
+    bool entriesWritten = true;  // every entry the run made reached the catalogue
+    bool foldersMerged = true;   // the new folders joined the TOC
+};
+
 // AddTree: walks `choices.root` into `cfn`. New folders collect in temptoc.tmp and
 // join the TOC at the end; entries are appended as the walk goes. Folders already in
-// the TOC (compared without regard to case) are reused, and their files go through the
-// duplicate check.
-void AddTree(Common& common, const std::filesystem::path& cfn, const TreeAddingChoices& choices);
+// the TOC are reused (the one of the very name first, else one that differs only in
+// case), and their files go through the duplicate check. Every failure, the run's start
+// and end included, is asked about in the file error dialog; none leaves the run.
+TreeAddingResult AddTree(Common& common, const std::filesystem::path& cfn,
+                         const TreeAddingChoices& choices);
 
 // KillTempFiles: removes temptoc.tmp, tempct.tmp and tempfil.tmp.
 void KillTempFiles(const Common& common);

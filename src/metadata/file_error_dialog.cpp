@@ -84,4 +84,10 @@ bool RunFileStep(Common& common, const std::function<void()>& step) {
     }
 }
 
+bool RunStepOfRun(Common& common, const std::function<void()>& step) {
+    const bool done = RunFileStep(common, step);
+    common.AbortAdding = false;
+    return done;
+}
+
 }  // namespace zvx

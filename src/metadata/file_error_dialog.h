@@ -21,5 +21,9 @@ std::string FileErrorDialog(Common& common, int errorNumber);
 // runs it again, Ignore clears the status and gives false, Abort also resets the
 // progress and sets AbortAdding. True when the operation succeeded.
 bool RunFileStep(Common& common, const std::function<void()>& step);
+// A step of the run itself rather than of one file (its start, its last writes): as
+// RunFileStep, but an Abort only gives the step up (AbortAdding stays clear), since the
+// run decides for itself what follows.
+bool RunStepOfRun(Common& common, const std::function<void()>& step);
 
 }  // namespace zvx

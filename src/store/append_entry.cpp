@@ -4,7 +4,9 @@
 
 #include "common/common.h"
 #include "metadata/case_mode.h"
-#include "platform/file_io.h"
+#include "platform/file_error.h"
+#include "platform/open_file.h"
+#include "store/catalogue_format.h"
 #include "store/duplicate_check.h"
 #include "store/duplicate_index.h"
 
@@ -22,17 +24,30 @@ void ApplyCaseModeToTexts(EntryValues& v, int mode) {
     }
 }
 
-// Writes the line with CR LF at the end of the file; an add run on the file writes it
-// through the file it keeps open, and records it.
-void AppendLine(Common& common, const std::filesystem::path& target, std::string_view line) {
+// Writes the line with CR LF at the end of the file, then strikes the line it replaces.
+// An add run on the file gathers the line with the others, unless a scan decided: that
+// strike rewrites the file at once, so the line goes straight in. A failure leaves the
+// file as it was, so that a retry writes the line once and strikes once.
+void AppendLine(Common& common, const std::filesystem::path& target, std::string_view line,
+                const DuplicateVerdict& verdict) {
     DuplicateIndex* index = common.duplicateIndex.get();
-    if (index && index->isCatalogue(target)) {
+    const bool runCatalogue = index && index->isCatalogue(target);
+    if (runCatalogue && (verdict.replaced == 0 || verdict.byIndex)) {
         index->appendLine(line);
+        StrikeReplaced(common, target, verdict);
         return;
     }
-    AppendWriter writer(target);
-    writer.writeLine(line);
-    writer.close();
+    if (runCatalogue)
+        index->release();
+    OpenFile file(target, true);
+    const uint64_t before = file.size();
+    file.append(std::string(line) + kLineEnd);
+    try {
+        StrikeReplaced(common, target, verdict);
+    } catch (const FileError&) {
+        file.truncate(before);
+        throw;
+    }
 }
 
 }  // namespace
@@ -44,10 +59,13 @@ bool AppendEntry(Common& common, const std::filesystem::path& target, std::strin
     std::string line =
         ComposeEntryLine(folderId, fullPath, values, readOnly, common.settings.renumberingLevel);
     common.SetActiveDocumentChanged();
-    if (checkDuplicates && !CheckDuplicate(common, target, line))
-        return false;
-    AppendLine(common, target, line);
-    return true;
+    const DuplicateVerdict verdict =
+        checkDuplicates ? JudgeDuplicate(common, target, line) : DuplicateVerdict{};
+    if (verdict.write)
+        AppendLine(common, target, line, verdict);
+    else
+        StrikeReplaced(common, target, verdict);
+    return verdict.write;
 }
 
 }  // namespace zvx

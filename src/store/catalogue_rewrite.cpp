@@ -45,11 +45,13 @@ void CatalogueRewrite::writeLine(std::string_view line) {
     writer_.writeLine(line);
 }
 
+// The entry offset is set in tempfile.tmp, so that the catalogue changes in one step,
+// the replacement, and a failure anywhere leaves it as it was.
 void CatalogueRewrite::finish(bool tocChanged) {
     writer_.close();
-    ReplaceFromTempFile(common_, catalogue_);
     if (tocChanged)
-        UpdateEntryOffset(common_, catalogue_);
+        UpdateEntryOffset(common_, common_.workFile(kTempFile));
+    ReplaceFromTempFile(common_, catalogue_);
 }
 
 }  // namespace zvx

@@ -39,7 +39,7 @@ class CatalogueRewrite {
     void writeLine(std::string_view line);
 
     // Closes both files and replaces the catalogue; updates the entry offset when the
-    // TOC changed in length.
+    // TOC changed in length. Throws FileError and leaves the catalogue as it was.
     void finish(bool tocChanged);
 
   private:

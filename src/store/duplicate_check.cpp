@@ -26,6 +26,12 @@ bool IsDuplicate(std::string_view line, std::string_view newLine, const EntryFie
            SameEntry(SplitEntryLine(line, kLastKeyField), added);
 }
 
+// The 0-based position of the entry section by the header.
+uint64_t EntryOffsetIndex(const std::filesystem::path& file) {
+    const uint64_t offset = ReadEntryOffset(file);
+    return offset > 0 ? offset - 1 : 0;
+}
+
 bool AskOverwrite(Common& common, const EntryFields& old, const EntryFields& added) {
     if (common.DuplicateChoice != kKeepAll && common.DuplicateChoice != kDelAll) {
         DuplicateQuestion q{std::string(old[1]),   std::string(old[2]),   std::string(old[7]),
@@ -36,48 +42,43 @@ bool AskOverwrite(Common& common, const EntryFields& old, const EntryFields& add
 }
 
 // One scan of the entry section, counting lines from the entry offset.
-bool CheckByScan(Common& common, const std::filesystem::path& file, std::string_view newLine,
-                 bool isDecheck) {
+DuplicateVerdict JudgeByScan(Common& common, const std::filesystem::path& file,
+                             std::string_view newLine, bool isDecheck) {
     const EntryFields added = SplitEntryLine(newLine);
-    const uint64_t offset = ReadEntryOffset(file);
-    bool result = true;
-    uint64_t hit = 0;
-    {
-        LineReader reader(file, offset > 0 ? offset - 1 : 0);
-        std::string_view line;
-        for (uint64_t number = 1; reader.next(line); ++number) {
-            if (!IsDuplicate(line, newLine, added))
-                continue;
-            if (isDecheck || AskOverwrite(common, SplitEntryLine(line), added)) {
-                hit = number;
-                break;
-            }
-            result = false;
+    LineReader reader(file, EntryOffsetIndex(file));
+    DuplicateVerdict verdict;
+    std::string_view line;
+    for (uint64_t number = 1; reader.next(line); ++number) {
+        if (!IsDuplicate(line, newLine, added))
+            continue;
+        if (isDecheck || AskOverwrite(common, SplitEntryLine(line), added)) {
+            verdict.replaced = number;
+            break;
         }
+        verdict.write = false;
     }
-    if (hit > 0)
-        StrikeOutLines(common, file, [hit](uint64_t number) { return number == hit; });
-    return result;
+    return verdict;
 }
 
 // The same hits in the same order as the scan, found through the run's index.
-bool CheckByIndex(Common& common, DuplicateIndex& index, std::string_view newLine) {
+DuplicateVerdict JudgeByIndex(Common& common, DuplicateIndex& index, std::string_view newLine) {
     const EntryFields added = SplitEntryLine(newLine);
-    bool result = true;
+    DuplicateVerdict verdict;
+    verdict.byIndex = true;
     for (size_t candidate : index.candidates(newLine)) {
         const std::string line = index.lineAt(candidate);
         if (!IsDuplicate(line, newLine, added))
             continue;  // another key of the same hash
         if (AskOverwrite(common, SplitEntryLine(line), added)) {
-            index.strike(candidate);
-            break;  // the result stays false if an earlier hit was kept
+            verdict.replaced = candidate + 1;
+            break;  // the new line stays refused if an earlier hit was kept
         }
-        result = false;
+        verdict.write = false;
         // Under "Keep all" every further hit is kept without a question.
         if (common.DuplicateChoice == kKeepAll)
             break;
     }
-    return result;
+    return verdict;
 }
 
 }  // namespace
@@ -107,15 +108,37 @@ void StrikeOutLines(const Common& common, const std::filesystem::path& file,
     ReplaceFile(scratch, file);
 }
 
-bool CheckDuplicate(Common& common, const std::filesystem::path& file, std::string_view newLine) {
+DuplicateVerdict JudgeDuplicate(Common& common, const std::filesystem::path& file,
+                                std::string_view newLine) {
     const bool isDecheck = file == common.workFile(kDecheckFile);
     DuplicateIndex* index = common.duplicateIndex.get();
     if (!isDecheck && index && index->answersFor(file))
-        return CheckByIndex(common, *index, newLine);
-    // The scan may replace the file, which the run must then open anew.
+        return JudgeByIndex(common, *index, newLine);
+    // The scan reads the file, which must hold every line of the run first.
     if (index && index->isCatalogue(file))
         index->release();
-    return CheckByScan(common, file, newLine, isDecheck);
+    return JudgeByScan(common, file, newLine, isDecheck);
+}
+
+void StrikeReplaced(Common& common, const std::filesystem::path& file,
+                    const DuplicateVerdict& verdict) {
+    const uint64_t hit = verdict.replaced;
+    if (hit == 0)
+        return;
+    if (verdict.byIndex) {
+        common.duplicateIndex->strike(hit - 1);
+        return;
+    }
+    // The strike replaces the file, which the run must then open anew.
+    if (DuplicateIndex* index = common.duplicateIndex.get(); index && index->isCatalogue(file))
+        index->release();
+    StrikeOutLines(common, file, [hit](uint64_t number) { return number == hit; });
+}
+
+bool CheckDuplicate(Common& common, const std::filesystem::path& file, std::string_view newLine) {
+    const DuplicateVerdict verdict = JudgeDuplicate(common, file, newLine);
+    StrikeReplaced(common, file, verdict);
+    return verdict.write;
 }
 
 }  // namespace zvx

@@ -17,11 +17,30 @@ inline constexpr const char* kKeepAll = "keepall";
 inline constexpr const char* kDelOld = "delold";
 inline constexpr const char* kDelAll = "delall";
 
-// Whether `newLine` is to be written to `file`. On a duplicate the user is asked
-// (unless "Keep all" or "Overwrite all" was answered in this run); overwriting strikes
-// the old line out of the file. In decheck.tmp, the copy that only keeps track of what
-// has been seen, a duplicate is struck out silently. While an add run is active for the
-// file, its duplicate index answers, with the same questions and the same outcome.
+// What the duplicate check decided for a new line.
+struct DuplicateVerdict {
+    bool write = true;  // whether the new line is to be written
+    // The old line that is to go (0 for none): its number behind the TOC when a scan found
+    // it, one more than its number in the run's duplicate index when the index did.
+    uint64_t replaced = 0;
+    bool byIndex = false;
+};
+
+// Decides whether `newLine` is to be written to `file`, changing nothing. On a duplicate
+// the user is asked (unless "Keep all" or "Overwrite all" was answered in this run);
+// overwriting replaces the old line. In decheck.tmp, the copy that only keeps track of
+// what has been seen, a duplicate is replaced silently. While an add run is active for
+// the file, its duplicate index answers, with the same questions and the same outcome.
+DuplicateVerdict JudgeDuplicate(Common& common, const std::filesystem::path& file,
+                                std::string_view newLine);
+
+// Strikes out the line the verdict replaces: from the file at once after a scan (throws
+// FileError), from the run's index (and from the file when the run ends) otherwise.
+// Writers strike only once the new line is written, so that a failed write loses nothing.
+void StrikeReplaced(Common& common, const std::filesystem::path& file,
+                    const DuplicateVerdict& verdict);
+
+// JudgeDuplicate and StrikeReplaced at once: whether `newLine` is to be written.
 bool CheckDuplicate(Common& common, const std::filesystem::path& file, std::string_view newLine);
 
 // Rewrites the file through tempfil2.tmp without the entry lines for which `struck` holds;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "common/common.h"
+#include "platform/file_error.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
 #include "store/catalogue_format.h"
@@ -158,8 +159,8 @@ void DuplicateIndex::strike(size_t number) {
     ++struckCount_;
 }
 
-// A failed write leaves the pending lines pending, and the new line unrecorded, so that
-// a retry of the append adds it once.
+// A failed write leaves the lines it could not write pending, and the new line
+// unrecorded, so that a retry of the append adds it once.
 void DuplicateIndex::appendLine(std::string_view line) {
     file();
     if (pending_.size() >= kPendingLimit)
@@ -170,20 +171,37 @@ void DuplicateIndex::appendLine(std::string_view line) {
         add(offset, line);
 }
 
+// The lines the file took whole count as written even when the block failed part-way;
+// the others stay pending for the next try.
 void DuplicateIndex::flush() {
     if (pending_.empty())
         return;
-    file().append(pending_);
-    flushedSize_ += pending_.size();
-    pending_.clear();
+    OpenFile& out = file();
+    const uint64_t before = out.size();
+    try {
+        out.append(pending_);
+    } catch (const FileError&) {
+        taken(out.size() - before);
+        throw;
+    }
+    taken(pending_.size());
+}
+
+void DuplicateIndex::taken(uint64_t bytes) {
+    flushedSize_ += bytes;
+    pending_.erase(0, static_cast<size_t>(bytes));
 }
 
 void DuplicateIndex::release() {
     flush();
+    if (file_)
+        file_->close();
     file_.reset();
     mapped_.reset();
 }
 
+// The struck lines are forgotten once they are gone, so that ending again strikes nothing
+// twice.
 void DuplicateIndex::finish(const Common& common) {
     release();
     if (struckCount_ == 0)
@@ -191,6 +209,20 @@ void DuplicateIndex::finish(const Common& common) {
     StrikeOutLines(common, catalogue_, [this](uint64_t number) {
         return number >= 1 && number <= lines_.size() && lines_[number - 1].struck;
     });
+    struckCount_ = 0;
+}
+
+void DuplicateIndex::abandon() {
+    pending_.clear();
+    if (file_) {
+        try {
+            file_->close();
+        } catch (const FileError&) {
+            // Nothing more can be done for a file that cannot even be cut back.
+        }
+    }
+    file_.reset();
+    mapped_.reset();
 }
 
 bool BeginAddRun(Common& common, const std::filesystem::path& cfn) {
@@ -201,9 +233,15 @@ bool BeginAddRun(Common& common, const std::filesystem::path& cfn) {
 }
 
 void EndAddRun(Common& common) {
-    std::shared_ptr<DuplicateIndex> index = std::exchange(common.duplicateIndex, nullptr);
-    if (index)
-        index->finish(common);
+    if (!common.duplicateIndex)
+        return;
+    common.duplicateIndex->finish(common);
+    common.duplicateIndex.reset();
+}
+
+void AbandonAddRun(Common& common) {
+    if (std::shared_ptr<DuplicateIndex> index = std::exchange(common.duplicateIndex, nullptr))
+        index->abandon();
 }
 
 AddRunScope::AddRunScope(Common& common, const std::filesystem::path& cfn)
@@ -214,15 +252,22 @@ AddRunScope::~AddRunScope() {
         return;
     try {
         EndAddRun(common_);
-    } catch (...) {
-        // A destructor cannot report; the catalogue keeps the old lines beside the new.
+    } catch (const FileError&) {
+        // A destructor cannot ask; what could be written is in the catalogue.
     }
+    AbandonAddRun(common_);
 }
 
 void AddRunScope::end() {
-    if (!std::exchange(began_, false))
+    if (!began_)
         return;
     EndAddRun(common_);
+    began_ = false;
+}
+
+void AddRunScope::abandon() {
+    if (std::exchange(began_, false))
+        AbandonAddRun(common_);
 }
 
 }  // namespace zvx

@@ -8,7 +8,10 @@
 // stays in the file until the run ends, and then all struck lines go in one rewrite. A
 // run interrupted before that leaves the old lines beside the new ones: nothing is lost.
 // Appended lines reach the file in blocks of up to 1 MiB and at the latest when the run
-// ends; the catalogue of a run is a working copy, never the user's file itself.
+// ends; the catalogue of a run is a working copy, never the user's file itself. A block
+// that fails part-way keeps the lines the file took whole and cuts off the piece of the
+// next; the lines not written wait for the next try, so a retry neither loses nor
+// doubles one.
 
 #include <cstdint>
 #include <filesystem>
@@ -61,8 +64,11 @@ class DuplicateIndex {
     // read or replaced under its name. Throws FileError.
     void release();
 
-    // Removes the struck lines in one rewrite through tempfil2.tmp.
+    // Writes the gathered lines and removes the struck ones in one rewrite through
+    // tempfil2.tmp. Throws FileError; then calling it again goes on where it failed.
     void finish(const Common& common);
+    // Drops the lines not yet written and closes the file; struck lines stay in it.
+    void abandon();
 
   private:
     struct Line {
@@ -78,6 +84,8 @@ class DuplicateIndex {
 
     OpenFile& file() const;
     void flush();
+    // The first `bytes` of the pending lines are in the file.
+    void taken(uint64_t bytes);
 
     std::filesystem::path catalogue_;
     mutable std::unique_ptr<OpenFile> file_;
@@ -96,22 +104,29 @@ class DuplicateIndex {
 // Begins an add run on the working copy `cfn` unless a run is active already; whether it
 // began one. Clearing DuplicateChoice stays the caller's part.
 bool BeginAddRun(Common& common, const std::filesystem::path& cfn);
-// Ends the active run, if any: the struck lines leave its catalogue. Must come before
-// any other rewrite of the catalogue, such as the wizard's TOC merge. Throws FileError.
+// Ends the active run, if any: the gathered lines reach its catalogue and the struck
+// lines leave it. Must come before any other rewrite of the catalogue, such as the
+// wizard's TOC merge. Throws FileError and leaves the run active, to be ended again or
+// given up.
 void EndAddRun(Common& common);
+// Gives the active run up, if any: the lines that could not be written are dropped, and
+// the struck lines stay in the catalogue.
+void AbandonAddRun(Common& common);
 
 // An add run for the life of a scope. A scope that finds a run active leaves it alone.
 class AddRunScope {
   public:
     AddRunScope(Common& common, const std::filesystem::path& cfn);
-    // Ends the run if end() was not called; a failing rewrite is dropped then, which
-    // leaves the old lines in the catalogue.
+    // Ends the run if neither end() nor abandon() did; what cannot be written then is
+    // given up, and the catalogue keeps the old lines beside the new.
     ~AddRunScope();
     AddRunScope(const AddRunScope&) = delete;
     AddRunScope& operator=(const AddRunScope&) = delete;
 
-    // Ends the run this scope began. Throws FileError.
+    // Ends the run this scope began. Throws FileError; the run stays active then.
     void end();
+    // Gives the run up (AbandonAddRun).
+    void abandon();
 
   private:
     Common& common_;

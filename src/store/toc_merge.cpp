@@ -32,8 +32,9 @@ void MergeTocGroups(Common& common, const std::filesystem::path& cfn,
             writer.writeLine(line);
         writer.close();
     }
+    // Set before the replacement, which is the one step that changes the catalogue.
+    UpdateEntryOffset(common, merged);
     ReplaceFile(merged, cfn);
-    UpdateEntryOffset(common, cfn);
 }
 
 }  // namespace zvx

@@ -2,12 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "adding/insert_rows.h"
+#include "steady_screen.h"
 #include "store/folder_listing.h"
 #include "support/catalogue_bytes.h"
+#include "support/fault_loop.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
@@ -69,6 +72,91 @@ TEST(InsertRun, AFileTwiceInTheListGoesThroughTheDuplicateCheck) {
     EXPECT_EQ(count, 1u);
     EXPECT_EQ(env.screen.duplicates.size(), 1u);
     EXPECT_EQ(env.screen.statuses.back(), "");
+}
+
+// Rows f1.txt, f2.txt and f3.txt into a folder that holds an older entry of f2.txt,
+// which the run overwrites.
+struct OverwriteRun {
+    OverwriteRun() {
+        test::WriteAll(cfn, test::CatalogueBytes({{"A\\", "", 10, "00000000"}}, {}));
+        for (const char* name : {"f1.txt", "f2.txt", "f3.txt"})
+            listmore(rows, (env.folder / name).string());
+        test::WriteAll(env.folder / "f2.txt", "old");
+        InsertRun(env.common, cfn, "00000000", {rows[1]}, false);
+        for (const InsertRow& row : rows)
+            test::WriteAll(row.fullPath(), "new data");
+    }
+    bool run() { return InsertRun(env.common, cfn, "00000000", rows, false); }
+    // The catalogue a run without faults leaves; the fixture stays as it was.
+    std::string clean() {
+        const std::string before = test::ReadAll(cfn);
+        run();
+        const std::string after = test::ReadAll(cfn);
+        test::WriteAll(cfn, before);
+        return after;
+    }
+    std::vector<std::string> entries() const {
+        std::vector<std::string> lines;
+        ListFolderEntries(cfn, "00000000",
+                          [&](std::string_view line) { lines.emplace_back(line); });
+        return lines;
+    }
+
+    test::SteadyEnvironment env;
+    std::filesystem::path cfn = env.folder / "doc.zvd";
+    std::vector<InsertRow> rows;
+};
+
+TEST(InsertRun, ARetriedWriteNeitherLosesNorDoublesALine) {
+    for (const test::FaultKind& fault : test::kFaultKinds) {
+        EXPECT_GE(test::ForEachFault([&](int n) {
+                      OverwriteRun f;
+                      const std::string expected = f.clean();
+                      InjectedFileFault armed(fault.kind, n, fault.err);
+                      EXPECT_TRUE(f.run());
+                      EXPECT_EQ(f.env.screen.errorsAt.size(), armed.fired() ? 1u : 0u);
+                      EXPECT_EQ(test::ReadAll(f.cfn), expected);
+                      return armed.fired();
+                  }),
+                  2);
+    }
+}
+
+// Ignore drops the entry of the row that failed, Abort also the rows after it; a failed
+// end keeps the whole lines that reached the file. The old entry goes only when the run
+// wrote its successor and ended whole.
+TEST(InsertRun, AWriteGivenUpKeepsEveryLineWrittenBeforeIt) {
+    for (MsgAnswer answer : {MsgAnswer::Ignore, MsgAnswer::Abort}) {
+        for (const test::FaultKind& fault : test::kFaultKinds) {
+            test::ForEachFault([&](int n) {
+                OverwriteRun f;
+                const std::string old = f.entries().at(0);
+                const std::string before = test::ReadAll(f.cfn);
+                f.run();
+                const std::vector<std::string> added = f.entries();
+                test::WriteAll(f.cfn, before);
+                f.env.screen.errorAnswer = answer;
+                InjectedFileFault armed(fault.kind, n, fault.err);
+                const bool whole = f.run();
+                std::vector<std::string> kept = f.entries();
+                const bool replaced = std::ranges::count(kept, added[1]) == 1;
+                if (!whole || !replaced) {
+                    EXPECT_EQ(kept.at(0), old);
+                    kept.erase(kept.begin());
+                }
+                std::vector<std::string> wanted = added;
+                if (!whole)
+                    wanted.resize(kept.size());  // what fitted, in order
+                else if (armed.fired() && answer == MsgAnswer::Abort)
+                    wanted.resize(static_cast<size_t>(f.env.screen.errorsAt.at(0)) - 1);
+                else if (armed.fired())
+                    wanted.erase(wanted.begin() + f.env.screen.errorsAt.at(0) - 1);
+                EXPECT_EQ(kept, wanted);
+                EXPECT_TRUE(test::ReadAll(f.cfn).ends_with("\r\n"));
+                return armed.fired();
+            });
+        }
+    }
 }
 
 }  // namespace

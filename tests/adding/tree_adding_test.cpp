@@ -2,16 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
+#include "steady_screen.h"
 #include "store/entry_line.h"
 #include "store/entry_offset.h"
 #include "store/folder_listing.h"
 #include "store/toc.h"
 #include "support/catalogue_bytes.h"
+#include "support/fault_loop.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
@@ -158,6 +162,113 @@ TEST(AddTree, ANameWithALineBreakIsABlankAndIsFoundAgain) {
     f.env.screen.answerDuplicate("keepall");
     f.run();
     EXPECT_EQ(test::ReadAll(f.cfn), first);
+}
+
+TEST(AddTree, AFolderOfTheVeryNameWinsOverOneThatDiffersInCase) {
+    TreeFixture f;
+    for (const char* dir : {"a", "B"}) {
+        std::filesystem::create_directory(f.root / "Pop" / dir);
+        test::WriteAll(f.root / "Pop" / dir / "x.txt", "x");
+    }
+    test::WriteAll(f.cfn, test::CatalogueBytes({{"Pop\\", "", 10, "00000001"},
+                                                {"Pop\\A\\", "", 10, "00000002"},
+                                                {"Pop\\a\\", "", 10, "00000003"},
+                                                {"Pop\\b\\", "", 10, "00000004"}},
+                                               {}));
+    f.choices.realFolders = true;
+    f.choices.pattern = "x.txt";
+    f.run();
+    auto entries = f.entries();
+    EXPECT_TRUE(entries["00000002"].empty());
+    EXPECT_EQ(entries["00000003"], std::vector<std::string>{"x.txt"});
+    EXPECT_EQ(entries["00000004"], std::vector<std::string>{"x.txt"});  // only "b" exists
+}
+
+// A rerun over a tree with a changed file and a new directory: old folders reused,
+// duplicates overwritten, a new folder merged into the TOC.
+struct RerunFixture {
+    RerunFixture() {
+        for (const char* dir : {"Rock", "Pop"})
+            std::filesystem::create_directories(root / dir);
+        for (const char* file : {"a.txt", "Rock/b.txt", "Pop/c.txt"})
+            test::WriteAll(root / file, "some bytes");
+        test::WriteAll(cfn, test::CatalogueBytes({{"Old\\", "kept", 10, "00000007"}}, {}));
+        choices.root = root;
+        choices.makeParental = true;
+        choices.parentalName = "Disc";
+        choices.realFolders = true;
+        AddTree(env.common, cfn, choices);
+        test::WriteAll(root / "a.txt", "changed bytes");
+        std::filesystem::create_directory(root / "Jazz");
+        test::WriteAll(root / "Jazz" / "d.txt", "new");
+    }
+    TreeAddingResult run() { return AddTree(env.common, cfn, choices); }
+    // The catalogue a rerun without faults leaves; the fixture stays as it was.
+    std::string clean() {
+        const std::string before = test::ReadAll(cfn);
+        run();
+        const std::string after = test::ReadAll(cfn);
+        test::WriteAll(cfn, before);
+        return after;
+    }
+    std::vector<std::string> entryLines() const {
+        std::vector<std::string> lines;
+        for (const TocGroup& group : ReadTocGroups(cfn))
+            ListFolderEntries(cfn, group.id,
+                              [&](std::string_view line) { lines.emplace_back(line); });
+        return lines;
+    }
+
+    test::SteadyEnvironment env;
+    std::filesystem::path root = env.folder / "medium";
+    std::filesystem::path cfn = env.folder / "doc.zvd";
+    TreeAddingChoices choices;
+};
+
+TEST(AddTree, EveryWriteOfTheRunIsAskedAboutAndRetriedWithoutLoss) {
+    for (const test::FaultKind& fault : test::kFaultKinds) {
+        EXPECT_GE(test::ForEachFault([&](int n) {
+                      RerunFixture f;
+                      const std::string expected = f.clean();
+                      InjectedFileFault armed(fault.kind, n, fault.err);
+                      const TreeAddingResult result = f.run();
+                      EXPECT_TRUE(result.entriesWritten && result.foldersMerged);
+                      EXPECT_EQ(f.env.screen.errorsAt.size(), armed.fired() ? 1u : 0u);
+                      EXPECT_EQ(test::ReadAll(f.cfn), expected);
+                      return armed.fired();
+                  }),
+                  5);
+    }
+}
+
+// Given up, a write leaves a catalogue that reads whole: the old TOC in front, no piece
+// of a line, and every file that was in it still in it.
+TEST(AddTree, AWriteGivenUpLosesNothingThatWasAdded) {
+    for (MsgAnswer answer : {MsgAnswer::Ignore, MsgAnswer::Abort}) {
+        test::ForEachFault([&](int n) {
+            RerunFixture f;
+            const std::vector<std::string> old = f.entryLines();
+            const std::string before = test::ReadAll(f.cfn);
+            f.run();
+            const std::vector<std::string> renewed = f.entryLines();
+            test::WriteAll(f.cfn, before);
+            f.env.screen.errorAnswer = answer;
+            InjectedFileFault armed(FileFault::Write, n, ENOSPC);
+            const TreeAddingResult result = f.run();
+            const std::vector<TocGroup> toc = ReadTocGroups(f.cfn);
+            EXPECT_EQ(toc.size(), result.foldersMerged ? 5u : 4u);
+            EXPECT_EQ(ReadEntryOffset(f.cfn), FindTocEnd(f.cfn));
+            std::set<std::string> names;
+            for (const std::string& line : f.entryLines()) {
+                EXPECT_TRUE(std::ranges::count(old, line) + std::ranges::count(renewed, line));
+                names.emplace(SplitEntryLine(line)[1]);
+            }
+            EXPECT_TRUE(names.contains("a.txt") && names.contains("b.txt") &&
+                        names.contains("c.txt"));
+            EXPECT_TRUE(test::ReadAll(f.cfn).ends_with("\r\n"));
+            return armed.fired();
+        });
+    }
 }
 
 }  // namespace

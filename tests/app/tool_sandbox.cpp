@@ -2,9 +2,42 @@
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 
+#include <csignal>
+
 namespace zvx::test {
+
+namespace {
+
+// Lowers this process's file size limit while the tool is started: the tool inherits
+// the limit, and SIGXFSZ ignored, so that a write past it fails instead of ending it.
+class InheritedFileSizeLimit {
+  public:
+    explicit InheritedFileSizeLimit(uint64_t limit) : active_(limit > 0) {
+        if (!active_)
+            return;
+        ::getrlimit(RLIMIT_FSIZE, &old_);
+        rlimit lowered = old_;
+        lowered.rlim_cur = static_cast<rlim_t>(limit);
+        ::setrlimit(RLIMIT_FSIZE, &lowered);
+        oldHandler_ = std::signal(SIGXFSZ, SIG_IGN);
+    }
+    ~InheritedFileSizeLimit() {
+        if (!active_)
+            return;
+        ::setrlimit(RLIMIT_FSIZE, &old_);
+        std::signal(SIGXFSZ, oldHandler_);
+    }
+
+  private:
+    bool active_;
+    rlimit old_{};
+    void (*oldHandler_)(int) = SIG_DFL;
+};
+
+}  // namespace
 
 ToolSandbox::ToolSandbox() : work_(root_ / "work") {
     zvxHome = appFolder().string();
@@ -41,7 +74,11 @@ ToolResult ToolSandbox::run(const std::vector<std::string>& args) const {
                                      0600);
     posix_spawn_file_actions_addchdir_np(&actions, work_.c_str());
     pid_t pid = 0;
-    int spawned = posix_spawn(&pid, ZVXCAT_PATH, &actions, nullptr, argv.data(), envp.data());
+    int spawned = 0;
+    {
+        InheritedFileSizeLimit limit(fileSizeLimit);
+        spawned = posix_spawn(&pid, ZVXCAT_PATH, &actions, nullptr, argv.data(), envp.data());
+    }
     posix_spawn_file_actions_destroy(&actions);
 
     ToolResult result;

@@ -3,6 +3,7 @@
 // home, data, configuration and temporary folders all inside one temporary folder, so
 // that a run never sees the real home folder.
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -33,6 +34,9 @@ class ToolSandbox {
 
     // ZVX_HOME of the process; empty leaves it unset.
     std::string zvxHome;
+    // The size no file of the process may grow beyond, as on a disk that is full there
+    // (a write past it fails with EFBIG); 0 for no limit.
+    uint64_t fileSizeLimit = 0;
 
   private:
     TempFolder root_;

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "fake_windows.h"
 #include "platform/file_error.h"
 #include "platform/file_io.h"
 #include "store/write_protection.h"
+#include "support/fault_loop.h"
 
 namespace zvx {
 namespace {
@@ -59,6 +62,37 @@ TEST_F(SaveDocument, FailedSaveKeepsTheOldFileAndTheChangeFlag) {
     EXPECT_EQ(ReadAll(file), test::EmptyCatalogue());
     EXPECT_TRUE(document.aender);
     EXPECT_EQ(FilesIn(user), 1u);
+}
+
+// Whichever write of a save fails, the user's file keeps its old bytes whole.
+TEST_F(SaveDocument, ASaveThatFailsAnywhereLeavesTheOldFileWhole) {
+    Document& document = OpenChanged();
+    const fs::path other = user / "b.zvx";
+    for (bool saveAs : {false, true}) {
+        const fs::path target = saveAs ? other : file;
+        for (const test::FaultKind& fault : test::kFaultKinds) {
+            EXPECT_GE(test::ForEachFault([&](int n) {
+                          WriteAll(file, "old a");
+                          WriteAll(other, "old b");
+                          document.aender = true;
+                          bench.env.screen.shown.clear();
+                          if (saveAs)
+                              bench.env.screen.answerFileDialog({{other.string()}, false});
+                          InjectedFileFault armed(fault.kind, n, fault.err);
+                          saveAs ? bench.lifecycle.SaveAsDoc(document)
+                                 : bench.lifecycle.SaveDoc(document);
+                          EXPECT_EQ(document.aender, armed.fired());
+                          EXPECT_EQ(std::ranges::count(bench.env.screen.shown, "Unknown Error!",
+                                                       &test::Shown::text),
+                                    armed.fired() ? 1 : 0);
+                          EXPECT_EQ(ReadAll(target), armed.fired() ? (saveAs ? "old b" : "old a")
+                                                                   : ReadAll(document.cfn));
+                          EXPECT_EQ(FilesIn(user), 2u);
+                          return armed.fired();
+                      }),
+                      1);
+        }
+    }
 }
 
 TEST_F(SaveDocument, NeverSavedDocumentGoesToTheDialogAndCancelKeepsIt) {

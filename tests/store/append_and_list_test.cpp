@@ -3,11 +3,14 @@
 #include <string>
 #include <vector>
 
+#include "platform/file_error.h"
 #include "store/append_entry.h"
+#include "store/duplicate_check.h"
 #include "store/entry_offset.h"
 #include "store/folder_listing.h"
 #include "store/new_catalogue.h"
 #include "support/catalogue_bytes.h"
+#include "support/fault_loop.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
@@ -49,6 +52,48 @@ TEST(AppendEntry, AppendsOneLineInTheCaseModeAndLeavesHeaderAndTocAlone) {
     f = SplitEntryLine(Listing(file, "00000000").at(1));
     EXPECT_EQ(f[9], "mIxEd");
     EXPECT_EQ(f[15], "0012");
+}
+
+// Outside a run a line is appended at once; an overwritten old line is struck only after
+// the new one is written, so a failure leaves the file as it was and a repeat writes once.
+TEST(AppendEntry, AFailedAppendOrStrikeLeavesTheCatalogueAsItWas) {
+    const std::string old = test::EntryLineOf("00000000", {"a.mp3", "1", "c:\\m", ""});
+    const std::string other = test::EntryLineOf("00000000", {"b.mp3", "1", "c:\\m", ""});
+    for (const test::FaultKind& fault : test::kFaultKinds) {
+        for (bool overwrite : {false, true}) {
+            EXPECT_GE(
+                test::ForEachFault([&](int n) {
+                    test::TestEnvironment env;
+                    env.common.DuplicateChoice = kDelAll;
+                    const auto file = env.folder / "doc.zvx";
+                    const auto toc = std::vector<test::FolderSpec>{{"M\\", "", 10, "00000000"}};
+                    test::WriteAll(file, test::CatalogueBytes(toc, {old, other}));
+                    const std::string before = test::ReadAll(file);
+                    const auto append = [&] {
+                        return AppendEntry(env.common, file, "00000000", "c:\\m\\a.mp3", {}, false,
+                                           overwrite);
+                    };
+                    InjectedFileFault armed(fault.kind, n, fault.err);
+                    bool failed = false;
+                    try {
+                        append();
+                    } catch (const FileError&) {
+                        failed = true;
+                    }
+                    EXPECT_EQ(failed, armed.fired());
+                    if (!failed)
+                        return false;
+                    EXPECT_EQ(test::ReadAll(file), before);
+                    append();
+                    const std::string added = Listing(file, "00000000").back();
+                    const auto kept = overwrite ? std::vector<std::string>{other, added}
+                                                : std::vector<std::string>{old, other, added};
+                    EXPECT_EQ(test::ReadAll(file), test::CatalogueBytes(toc, kept));
+                    return true;
+                }),
+                overwrite ? 2 : 1);
+        }
+    }
 }
 
 TEST(FolderListing, FindsAFoldersLinesFromTheEntryOffset) {

@@ -7,6 +7,7 @@
 #include "store/new_catalogue.h"
 #include "store/toc.h"
 #include "support/catalogue_bytes.h"
+#include "support/fault_loop.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
@@ -69,6 +70,31 @@ TEST(CatalogueFile, RewriteKeepsEntriesAndTheirOrder) {
     EXPECT_EQ(groups[0].icon(), 10);
     EXPECT_EQ(groups[1].path, "Photos\\");
     EXPECT_EQ(ReadEntryOffset(file), FindTocEnd(file));
+}
+
+TEST(CatalogueFile, ARewriteThatFailsLeavesTheCatalogueAsItWas) {
+    for (const test::FaultKind& fault : test::kFaultKinds) {
+        EXPECT_GE(test::ForEachFault([&](int n) {
+                      test::TestEnvironment env;
+                      auto file = env.folder / "b.zvx";
+                      WriteAll(file, test::CatalogueBytes({{"Music\\", "", 10, "00000001"}},
+                                                          {test::EntryLineOf("00000001", {"x"})}));
+                      const std::string before = ReadAll(file);
+                      InjectedFileFault armed(fault.kind, n, fault.err);
+                      try {
+                          AddFolder(env.common, file, MakeTocGroup("Photos\\", "", 11, "00000002"));
+                      } catch (const FileError&) {
+                          EXPECT_TRUE(armed.fired());
+                      }
+                      if (armed.fired())
+                          EXPECT_EQ(ReadAll(file), before);
+                      else
+                          EXPECT_EQ(ReadTocGroups(file).size(), 2u);
+                      EXPECT_EQ(ReadEntryOffset(file), FindTocEnd(file));
+                      return armed.fired();
+                  }),
+                  2);
+    }
 }
 
 TEST(CatalogueFile, TocLinesNeverHoldLineBreaksOrSeparators) {

@@ -15,7 +15,8 @@ void CheckAdd(const Arguments& arguments) {
 }
 
 // The insert list's run: the files go into one folder, each through the duplicate
-// check. What was added before an abort is kept, as in the window.
+// check. What was added before an abort is kept, as in the window. When the run could
+// not write all it made (a full disk), FILE takes what was written and the run fails.
 void RunAdd(const Arguments& arguments, Common& common, std::ostream&) {
     LoadSettings(common);
     FolderCatalogue catalogue(common, arguments.positional[0]);
@@ -26,9 +27,12 @@ void RunAdd(const Arguments& arguments, Common& common, std::ostream&) {
         listmore(rows, NativeFileArgument(arguments.positional[i]).string());
     dataact(rows);
     const std::filesystem::path& cfn = catalogue.openWorkingCopy();
-    InsertRun(common, cfn, tree.nodes[static_cast<size_t>(folder)].id(), rows,
-              arguments.has("--detag"));
+    const bool whole = InsertRun(common, cfn, tree.nodes[static_cast<size_t>(folder)].id(), rows,
+                                 arguments.has("--detag"));
     catalogue.save();
+    if (!whole)
+        throw ToolFailure("not every entry could be written; " + catalogue.file().string() +
+                          " holds those written before the failure");
 }
 
 }  // namespace
@@ -47,7 +51,9 @@ const Command& AddCommand() {
         "  --on-duplicate WORD  ask (default), keep-old, keep-all, overwrite, overwrite-all\n"
         "  --on-error WORD      ask (default), ignore or abort; a file that fails is\n"
         "                       skipped with ignore, and abort ends the run keeping what\n"
-        "                       was added\n",
+        "                       was added. When the entries cannot all be written (a\n"
+        "                       full disk), FILE keeps those written, and the exit\n"
+        "                       status is 1\n",
         {"--detag", "--on-duplicate=", "--on-error="},
         CheckAdd,
         RunAdd};

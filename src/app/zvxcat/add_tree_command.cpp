@@ -78,9 +78,16 @@ void RunAddTree(const Arguments& arguments, Common& common, std::ostream&) {
     if (!std::filesystem::is_directory(choices.root))
         throw ToolFailure("no directory " + choices.root.string());
     const std::filesystem::path& cfn = catalogue.openWorkingCopy();
-    AddTree(common, cfn, choices);
+    const TreeAddingResult result = AddTree(common, cfn, choices);
     KillTempFiles(common);
+    const std::string file = catalogue.file().string();
+    // Without the new folders the entries made in them would be in FILE but in no folder.
+    if (!result.foldersMerged)
+        throw ToolFailure("the run could not complete; " + file + " is unchanged");
     catalogue.save();
+    if (!result.entriesWritten)
+        throw ToolFailure("not every entry could be written; " + file +
+                          " holds those written before the failure");
 }
 
 }  // namespace
@@ -111,7 +118,10 @@ const Command& AddTreeCommand() {
         "  --sub-icon N         icon number of the other folders (default 10)\n"
         "  --on-duplicate WORD  ask (default), keep-old, keep-all, overwrite, overwrite-all\n"
         "  --on-error WORD      ask (default), ignore or abort (abort skips the rest of the\n"
-        "                       directory, as in the window)\n",
+        "                       directory, as in the window). When the entries cannot all\n"
+        "                       be written (a full disk), FILE keeps those written, or\n"
+        "                       stays unchanged when the new folders cannot be; the exit\n"
+        "                       status is 1 then\n",
         {"--under=", "--as-root", "--parent=", "--real-folders", "--detag",
          "--pattern=", "--description=", "--dir-description",
          "--top-icon=", "--sub-icon=", "--on-duplicate=", "--on-error="},
