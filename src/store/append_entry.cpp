@@ -59,6 +59,10 @@ bool AppendEntry(Common& common, const std::filesystem::path& target, std::strin
     std::string line =
         ComposeEntryLine(folderId, fullPath, values, readOnly, common.settings.renumberingLevel);
     common.SetActiveDocumentChanged();
+    // In a run the writes come before the duplicate question, so that a retry after a
+    // failed write does not ask it again.
+    if (DuplicateIndex* index = common.duplicateIndex.get(); index && index->isCatalogue(target))
+        index->makeRoom();
     const DuplicateVerdict verdict =
         checkDuplicates ? JudgeDuplicate(common, target, line) : DuplicateVerdict{};
     if (verdict.write)

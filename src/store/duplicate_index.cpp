@@ -159,12 +159,17 @@ void DuplicateIndex::strike(size_t number) {
     ++struckCount_;
 }
 
-// A failed write leaves the lines it could not write pending, and the new line
-// unrecorded, so that a retry of the append adds it once.
-void DuplicateIndex::appendLine(std::string_view line) {
+// A failed write leaves the lines it could not write pending.
+void DuplicateIndex::makeRoom() {
     file();
     if (pending_.size() >= kPendingLimit)
         flush();
+}
+
+// A failed write leaves the new line unrecorded, so that a retry of the append adds it
+// once.
+void DuplicateIndex::appendLine(std::string_view line) {
+    makeRoom();
     const uint64_t offset = flushedSize_ + pending_.size();
     pending_.append(line).append("\r\n");
     if (built_ && usable_)

@@ -60,6 +60,9 @@ class DuplicateIndex {
     // in large blocks; whatever reads the file in the run (the build, the full scan,
     // the end of the run) writes them first.
     void appendLine(std::string_view line);
+    // Does what may fail in appendLine: opens the kept file, and writes the gathered
+    // lines when they fill a block. Throws FileError.
+    void makeRoom();
     // Writes the gathered lines and closes the kept file: the catalogue is about to be
     // read or replaced under its name. Throws FileError.
     void release();

@@ -93,6 +93,7 @@ struct OverwriteRun {
         run();
         const std::string after = test::ReadAll(cfn);
         test::WriteAll(cfn, before);
+        env.screen.duplicates.clear();
         return after;
     }
     std::vector<std::string> entries() const {
@@ -115,6 +116,7 @@ TEST(InsertRun, ARetriedWriteNeitherLosesNorDoublesALine) {
                       InjectedFileFault armed(fault.kind, n, fault.err);
                       EXPECT_TRUE(f.run());
                       EXPECT_EQ(f.env.screen.errorsAt.size(), armed.fired() ? 1u : 0u);
+                      EXPECT_EQ(f.env.screen.duplicates.size(), 1u);
                       EXPECT_EQ(test::ReadAll(f.cfn), expected);
                       return armed.fired();
                   }),
