@@ -6,11 +6,13 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <optional>
 #include <system_error>
 #include <utility>
 
 #include "platform/file_error.h"
 #include "platform/file_faults.h"
+#include "platform/held_file.h"
 
 namespace zvx {
 
@@ -42,39 +44,62 @@ void WriteAll(int fd, std::string_view bytes, off_t offset, const std::filesyste
         ThrowFileError("Cannot write", path);
 }
 
+std::filesystem::path FolderOf(const std::filesystem::path& path) {
+    return path.has_parent_path() ? path.parent_path() : ".";
+}
+
 void SyncFolderOf(const std::filesystem::path& path) {
-    std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : ".";
-    int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    int fd = ::open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (fd >= 0) {
         ::fsync(fd);
         ::close(fd);
     }
 }
 
-// A flushed copy of `source` under a fresh name in the target's folder.
-std::filesystem::path CopyBeside(const std::filesystem::path& source,
-                                 const std::filesystem::path& target) {
-    std::string name = target.string() + ".XXXXXX";
-    int fd = FileFaultDue(FileFault::OpenForWriting) ? -1 : ::mkstemp(name.data());
-    if (fd < 0)
-        ThrowFileError("Cannot create a file beside", target);
-    ::close(fd);
-    try {
-        CopyFileBytes(source, name);
-        Fd copy(name, O_RDONLY, "Cannot open");
-        ::fsync(copy.get());
-    } catch (...) {
-        ::unlink(name.c_str());
-        throw;
+// A copy beside a target is named after it: the target's name, this, and six random
+// letters or digits.
+constexpr const char* kBesideInfix = ".part-";
+// Fresh names to try when a clearing run takes one away before it is held.
+constexpr int kBesideAttempts = 8;
+
+// A flushed copy beside its target, held under its lock until it has been renamed.
+struct BesideCopy {
+    std::filesystem::path path;
+    FileHold hold;
+};
+
+// A flushed copy of `source` under a fresh name in the target's folder, held from its
+// creation on, so that no other process clears it. Copies that dead processes left
+// beside the target, held by nobody, are cleared first.
+BesideCopy CopyBeside(const std::filesystem::path& source, const std::filesystem::path& target) {
+    RemoveAbandonedFiles(FolderOf(target), target.filename().string() + kBesideInfix);
+    for (int attempt = 0; attempt < kBesideAttempts; ++attempt) {
+        std::string name = target.string() + kBesideInfix + "XXXXXX";
+        int fd = FileFaultDue(FileFault::OpenForWriting) ? -1 : ::mkstemp(name.data());
+        if (fd < 0)
+            ThrowFileError("Cannot create a file beside", target);
+        std::optional<FileHold> hold = HoldNewFile(fd, name);
+        if (!hold)
+            continue;
+        try {
+            CopyFileBytes(source, name);
+            ::fsync(hold->fd());
+        } catch (...) {
+            ::unlink(name.c_str());
+            throw;
+        }
+        return {name, std::move(*hold)};
     }
-    return name;
+    errno = EEXIST;
+    ThrowFileError("Cannot create a file beside", target);
 }
 
-// Renames the flushed copy over the target, removing the copy when that fails.
-void RenameOver(const std::filesystem::path& beside, const std::filesystem::path& target) {
-    if (::rename(beside.c_str(), target.c_str()) != 0) {
+// Renames the flushed copy over the target, removing the copy when that fails. The
+// copy's lock ends only after the rename.
+void RenameOver(BesideCopy beside, const std::filesystem::path& target) {
+    if (::rename(beside.path.c_str(), target.c_str()) != 0) {
         int err = errno;
-        ::unlink(beside.c_str());
+        ::unlink(beside.path.c_str());
         errno = err;
         ThrowFileError("Cannot replace", target);
     }
@@ -178,11 +203,11 @@ void ReplaceFile(const std::filesystem::path& source, const std::filesystem::pat
 
 void CopyFileSafely(const std::filesystem::path& from, const std::filesystem::path& to) {
     std::filesystem::path target = FollowLink(to);
-    std::filesystem::path beside = CopyBeside(from, target);
+    BesideCopy beside = CopyBeside(from, target);
     struct stat old {};
     if (::stat(target.c_str(), &old) == 0)
-        ::chmod(beside.c_str(), old.st_mode & 07777);
-    RenameOver(beside, target);
+        ::chmod(beside.path.c_str(), old.st_mode & 07777);
+    RenameOver(std::move(beside), target);
 }
 
 AppendWriter::AppendWriter(const std::filesystem::path& path) : path_(path) {

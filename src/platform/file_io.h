@@ -30,6 +30,8 @@ void ReplaceFile(const std::filesystem::path& source, const std::filesystem::pat
 // Copies `from` over `to`, crash-safely in the same way: the copy is written beside `to`,
 // flushed and renamed over it, so that the old `to` stays whole until the new one is
 // complete. An existing `to` keeps its permissions, and a symbolic link is followed.
+// The copy, `to` + ".part-" + six random characters, is held under a lock until it is
+// renamed; copies of that name that dead processes left are cleared first.
 void CopyFileSafely(const std::filesystem::path& from, const std::filesystem::path& to);
 
 // Appends to a file (creating it) through a large buffer. A failed write leaves the file

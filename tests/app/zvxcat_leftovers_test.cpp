@@ -2,6 +2,7 @@
 #include <pty.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -122,6 +123,24 @@ TEST(ZvxcatLeftovers, ALiveRunKeepsItsWorkFolderWhileAnotherRuns) {
     EXPECT_EQ(live.wait(), 0);
     EXPECT_TRUE(WorkFolders(box).empty());
     EXPECT_EQ(ReadAll(box / "c.zvx"), CatalogueBytes({}, {}));
+}
+
+TEST(ZvxcatLeftovers, WritingACatalogueClearsTheCopiesBesideItThatNoRunHolds) {
+    ToolSandbox box;
+    WriteAll(box / "c.zvx", kCatalogue);
+    for (const char* name : {"c.zvx.part-Dead01", "c.zvx.part-Live01", "c.zvx.backup"})
+        WriteAll(box / name, "half a catalogue");
+    // A run between writing its copy and renaming it holds the copy.
+    const int live = ::open((box / "c.zvx.part-Live01").c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(::flock(live, LOCK_EX), 0);
+    ToolResult made = box.run({"mkdir", "c.zvx", "B"});
+    EXPECT_EQ(made.status, 0) << made.err;
+    EXPECT_FALSE(std::filesystem::exists(box / "c.zvx.part-Dead01"));
+    EXPECT_TRUE(std::filesystem::exists(box / "c.zvx.part-Live01"));
+    EXPECT_TRUE(std::filesystem::exists(box / "c.zvx.backup"));
+    ::close(live);
+    EXPECT_EQ(ReadAll(box / "c.zvx"),
+              CatalogueBytes({{"A\\", "", 10, "00000000"}, {"B\\", "", 10, "00000001"}}, {}));
 }
 
 }  // namespace
