@@ -88,8 +88,10 @@ FolderChange DeleteFolder(Common& common, const std::filesystem::path& workingCo
     CopyHeaderToTempFile(common, workingCopy);
     DeadIds dead = CopyOtherFolders(common, workingCopy, tree.nodes[selected].fullPath);
     CopyOtherEntries(common, workingCopy, oldTocEnd, dead);
+    // The offset is right before the one replacement, so that a failure at any write
+    // leaves the working copy as it was.
+    UpdateEntryOffset(common, common.workFile(kTempFile));
     ReplaceFromTempFile(common, workingCopy);
-    UpdateEntryOffset(common, workingCopy);
     common.PLUGSTART("ZVXFOLDERDEL");
     return {true, "", ""};
 }

@@ -64,8 +64,10 @@ void RewriteProperties(const Common& common, const std::filesystem::path& workin
             writer.writeLine(*id);
     }
     writer.close();
+    // The offset is right before the one replacement, so that a failure at any write
+    // leaves the working copy as it was.
+    UpdateEntryOffset(common, common.workFile(kTempFile));
     ReplaceFromTempFile(common, workingCopy);
-    UpdateEntryOffset(common, workingCopy);
 }
 
 }  // namespace

@@ -2,7 +2,11 @@
 
 #include "document/folder_operations.h"
 #include "document/folder_refresh.h"
+#include "platform/file_error.h"
+#include "platform/file_faults.h"
+#include "store/entry_offset.h"
 #include "support/catalogue_bytes.h"
+#include "support/fault_loop.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
@@ -232,6 +236,34 @@ TEST(MoveFolder, RefusalsComeInTheirOrder) {
               "A Folder cannot be a Sub-Folder of itself!");
     EXPECT_EQ(doc.bytes(), before);
     EXPECT_TRUE(doc.events.empty());
+}
+
+TEST(FolderRewrites, AFailureAtAnyWriteLeavesTheWorkingCopyAsItWas) {
+    using Change = std::function<void(Document&)>;
+    const Change changes[] = {
+        [](Document& doc) { DeleteFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music")); },
+        [](Document& doc) {
+            ChangeFolderProperties(doc.env.common, doc.cfn, doc.tree(), doc.at("Music"),
+                                   Dialog("Songs", false, "renamed"));
+        }};
+    for (const Change& change : changes) {
+        for (const test::FaultKind& fault : test::kFaultKinds) {
+            EXPECT_GE(test::ForEachFault([&](int n) {
+                          Document doc(kMusic, {EntryLineOf("00000001", {"a.mp3"})});
+                          const std::string before = doc.bytes();
+                          InjectedFileFault armed(fault.kind, n, fault.err);
+                          try {
+                              change(doc);
+                          } catch (const FileError&) {
+                          }
+                          if (armed.fired())
+                              EXPECT_EQ(doc.bytes(), before);
+                          EXPECT_EQ(ReadEntryOffset(doc.cfn), FindTocEnd(doc.cfn));
+                          return armed.fired();
+                      }),
+                      2);
+        }
+    }
 }
 
 }  // namespace
