@@ -222,7 +222,7 @@ void DuplicateIndex::abandon() {
     if (file_) {
         try {
             file_->close();
-        } catch (const FileError&) {
+        } catch (...) {
             // Nothing more can be done for a file that cannot even be cut back.
         }
     }
@@ -257,8 +257,9 @@ AddRunScope::~AddRunScope() {
         return;
     try {
         EndAddRun(common_);
-    } catch (const FileError&) {
-        // A destructor cannot ask; what could be written is in the catalogue.
+    } catch (...) {
+        // A destructor cannot ask, nor let anything pass while another failure is on its
+        // way; what could be written is in the catalogue.
     }
     AbandonAddRun(common_);
 }
