@@ -28,8 +28,10 @@ void AppendUtf8(char32_t cp, std::string& out) {
 }  // namespace
 
 std::string TextAsUtf8(std::string_view text) {
-    if (IsValidUtf8(text))
-        return std::string(text);
+    return IsValidUtf8(text) ? std::string(text) : Windows1252AsUtf8(text);
+}
+
+std::string Windows1252AsUtf8(std::string_view text) {
     std::string out;
     out.reserve(text.size() * 2);
     for (char c : text) {
