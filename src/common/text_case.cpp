@@ -45,21 +45,6 @@ uint32_t DecodeUtf8(std::string_view ch) {
     return cp;
 }
 
-std::string EncodeUtf8(uint32_t cp) {
-    std::string out;
-    if (cp < 0x80) {
-        out += static_cast<char>(cp);
-    } else if (cp < 0x800) {
-        out += static_cast<char>(0xC0 | (cp >> 6));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    } else {
-        out += static_cast<char>(0xE0 | (cp >> 12));
-        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (cp & 0x3F));
-    }
-    return out;
-}
-
 // Pairs of (lower, upper) outside the plain ranges, as Unicode code points and as
 // Windows-1252 bytes.
 struct CasePair {
@@ -126,6 +111,21 @@ std::string MapText(std::string_view text, uint32_t (*map)(uint32_t, bool)) {
 }
 
 }  // namespace
+
+std::string EncodeUtf8(uint32_t cp) {
+    std::string out;
+    if (cp < 0x80) {
+        out += static_cast<char>(cp);
+    } else if (cp < 0x800) {
+        out += static_cast<char>(0xC0 | (cp >> 6));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    } else {
+        out += static_cast<char>(0xE0 | (cp >> 12));
+        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    }
+    return out;
+}
 
 bool IsValidUtf8(std::string_view text) {
     for (size_t i = 0; i < text.size();) {

@@ -4,6 +4,7 @@
 // at a time, never by the process locale. A text that is valid UTF-8 is taken as UTF-8
 // (a sequence is one character); any other text as Windows-1252, one byte a character.
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,8 @@
 namespace zvx {
 
 bool IsValidUtf8(std::string_view text);
+// A code point of the Basic Multilingual Plane in UTF-8.
+std::string EncodeUtf8(uint32_t cp);
 
 // The characters of a text: UTF-8 sequences for a UTF-8 text, single bytes otherwise.
 std::vector<std::string_view> Characters(std::string_view text);
