@@ -13,6 +13,7 @@
 #include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <cstdlib>
 
 #include "common/clock.h"
@@ -281,14 +282,6 @@ QString PathOf(const QTreeWidgetItem* item) {
     return path;
 }
 
-void CollectPaths(const QTreeWidgetItem* item, QStringList& paths,
-                  std::vector<const QTreeWidgetItem*>& items) {
-    paths.append(PathOf(item));
-    items.push_back(item);
-    for (int i = 0; i < item->childCount(); ++i)
-        CollectPaths(item->child(i), paths, items);
-}
-
 QTreeWidget* Tree(frmDocument& document) {
     return document.findChild<QTreeWidget*>("List2");
 }
@@ -303,28 +296,32 @@ void ClickAt(QAbstractItemView* view, const QModelIndex& index) {
                       view->visualRect(index).center());
 }
 
+// The tree's folders from top to bottom, each with its path.
+std::vector<std::pair<QString, QTreeWidgetItem*>> Folders(frmDocument& document) {
+    std::vector<std::pair<QString, QTreeWidgetItem*>> folders;
+    for (QTreeWidgetItemIterator item(Tree(document)); *item; ++item)
+        folders.emplace_back(PathOf(*item), *item);
+    return folders;
+}
+
 }  // namespace
 
 QStringList FolderPaths(frmDocument& document) {
     QStringList paths;
-    std::vector<const QTreeWidgetItem*> items;
-    QTreeWidget* tree = Tree(document);
-    for (int i = 0; i < tree->topLevelItemCount(); ++i)
-        CollectPaths(tree->topLevelItem(i), paths, items);
+    for (const auto& [path, item] : Folders(document))
+        paths.append(path);
     return paths;
 }
 
 void ClickFolder(frmDocument& document, const QString& path) {
     QTreeWidget* tree = Tree(document);
     tree->expandAll();
-    QStringList paths;
-    std::vector<const QTreeWidgetItem*> items;
-    for (int i = 0; i < tree->topLevelItemCount(); ++i)
-        CollectPaths(tree->topLevelItem(i), paths, items);
-    const qsizetype at = paths.indexOf(path);
-    ASSERT_GE(at, 0) << "no folder " << path.toStdString() << " in "
-                     << paths.join(", ").toStdString();
-    ClickAt(tree, tree->indexFromItem(items[static_cast<size_t>(at)]));
+    for (const auto& [shown, item] : Folders(document)) {
+        if (shown == path)
+            return ClickAt(tree, tree->indexFromItem(item));
+    }
+    ADD_FAILURE() << "no folder " << path.toStdString() << " in "
+                  << FolderPaths(document).join(", ").toStdString();
 }
 
 void ClickRow(frmDocument& document, int row) {
