@@ -199,7 +199,8 @@ int Main(int argc, char** argv) {
     try {
         return RunProgram(app, commandLine, {screen, SystemDesktop(), clock, ProgramPath()});
     } catch (const std::exception& error) {
-        // Only the application folder itself can fail this early.
+        // What the start cannot go on without (an application folder that cannot be
+        // made, say) ends it, told in the same box as any failure.
         screen.message(kErrorBoxCaption, error.what(), MsgButtons::OkOnly, MsgIcon::Critical);
         return 1;
     }
