@@ -1,0 +1,34 @@
+#pragma once
+// What the entry editor's form (tab 2 of a document window) shows: each control's text
+// as a person sees and types it, and which fields are locked. The form is a window;
+// everything done with what it shows is made from these values.
+
+#include <array>
+#include <string>
+
+namespace zvx {
+
+// The controls by the entry field they show, 1 to 22 (index 0 is not used):
+//   1 Label17 (read-only)   2 Text7    3 Label19 (read-only)  4 Label16 (read-only)
+//   5 Label29 (read-only: "Read-only: Yes", "Read-only: No", "Read-only: n/a")
+//   6 Combo4   7 Text1   8 Combo1 (the file-type; empty while none is selected)
+//   9 Text3   10 Text2  11 Text4  12 Combo3  13 Text10  14 Text5  15 Text8  16 Text9
+//  17 Text6   18 Text11 19 Text12 20 Text13  21 Text14  22 Text15
+// Size shows its digit groups ("1 234 567"), bitrate "128 kbps", frequency "44100 hz",
+// and a field 19 to 22 that is "0" or empty shows "n/a".
+using EditorTexts = std::array<std::string, 23>;
+
+// The lock check boxes by field: 6 Check8, 8 Check1, 9 Check3, 10 Check2, 11 Check4,
+// 12 Check5, 13 Check13, 14 Check6, 16 Check12, 17 Check7, 18 Check14. The other
+// fields have no lock and stay false.
+using EditorLocks = std::array<bool, 23>;
+
+struct EditorForm {
+    EditorTexts texts;
+    EditorLocks locks{};
+};
+
+// Whether the field has a lock check box.
+bool HasLock(int field);
+
+}  // namespace zvx
