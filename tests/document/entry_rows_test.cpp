@@ -22,15 +22,13 @@ std::string Shown(int column, const std::string& value, const LoadedSettings& se
     return DisplayText(LineWith({{column, value}}), column, settings);
 }
 
-TEST(EntryDisplay, SizesAreZeroPaddedGroupsOfThree) {
+TEST(EntryDisplay, SizesAreZeroPaddedGroupsOfThreeAndFlagsAreWords) {
     EXPECT_EQ(Shown(2, "5"), "000 000 000 005");
     EXPECT_EQ(Shown(2, ""), "000 000 000 000");
     EXPECT_EQ(Shown(2, "1234567890123"), "1234 567 890 123");
     EXPECT_EQ(Shown(2, "2.5"), "000 000 000 003");
     EXPECT_EQ(Shown(2, "12x"), "00000000000012x");
-}
-
-TEST(EntryDisplay, ReadOnlyNotAvailableAndAsStored) {
+    // Read-only, values that are not available, and fields shown as stored.
     EXPECT_EQ(Shown(5, "1"), "Yes");
     EXPECT_EQ(Shown(5, "0"), "No");
     EXPECT_EQ(Shown(5, "yes"), "No");
@@ -46,8 +44,7 @@ TEST(EntryDisplay, ReadOnlyNotAvailableAndAsStored) {
 
 TEST(EntryDisplay, TrackAndYearOfZeroAreEmpty) {
     LoadedSettings renumbering;
-    renumbering.viewRenumbering = true;
-    renumbering.renumberingLevel = 2;
+    renumbering.renumberingLevel = 2;  // renumbering is on by default
     EXPECT_EQ(Shown(15, "7", renumbering), "007");
     EXPECT_EQ(Shown(15, "0012", renumbering), "012");
     EXPECT_EQ(Shown(15, "0", renumbering), "");
@@ -87,7 +84,19 @@ TEST(EntryDisplay, RealShowEntryKeepsTheWholeLineAsTag) {
     EXPECT_EQ(row.texts[21], "n/a");
 }
 
-TEST(ListSorting, AClickChoosesTheColumnAndASecondFlipsTheOrder) {
+TEST(ListSorting, SortsByTheShownTextsInTheOrderAHeaderClickChose) {
+    EntryRows rows;
+    rows.add(LineWith({{1, "b"}, {2, "100"}}));
+    rows.add(LineWith({{1, "A"}, {2, "9"}}));
+    rows.add(LineWith({{1, "a"}, {2, "10"}}));
+    // Padded sizes sort as numbers.
+    EXPECT_EQ(SortedRowOrder(rows, {1, kSortAscending}, {}), (std::vector<uint32_t>{1, 2, 0}));
+    EXPECT_EQ(SortedRowOrder(rows, {1, kSortDescending}, {}), (std::vector<uint32_t>{0, 2, 1}));
+    // Names without regard to case; equal ones stay in file order.
+    EXPECT_EQ(SortedRowOrder(rows, {0, kSortAscending}, {}), (std::vector<uint32_t>{1, 2, 0}));
+    EXPECT_EQ(SortedRowOrder(rows, {0, kSortDescending}, {}), (std::vector<uint32_t>{0, 1, 2}));
+
+    // A click on a column header chooses its column; a second click flips the order.
     ListSort sort;
     ColumnClick(sort, 3);
     EXPECT_EQ(sort.SortKey, 2);
@@ -99,19 +108,6 @@ TEST(ListSorting, AClickChoosesTheColumnAndASecondFlipsTheOrder) {
     EXPECT_EQ(sort.SortOrder, kSortDescending);
     ColumnClick(sort, 1);
     EXPECT_EQ(sort.SortOrder, kSortAscending);
-}
-
-TEST(ListSorting, SortsByTheShownTexts) {
-    EntryRows rows;
-    rows.add(LineWith({{1, "b"}, {2, "100"}}));
-    rows.add(LineWith({{1, "A"}, {2, "9"}}));
-    rows.add(LineWith({{1, "a"}, {2, "10"}}));
-    // Padded sizes sort as numbers.
-    EXPECT_EQ(SortedRowOrder(rows, {1, kSortAscending}, {}), (std::vector<uint32_t>{1, 2, 0}));
-    EXPECT_EQ(SortedRowOrder(rows, {1, kSortDescending}, {}), (std::vector<uint32_t>{0, 2, 1}));
-    // Names without regard to case; equal ones stay in file order.
-    EXPECT_EQ(SortedRowOrder(rows, {0, kSortAscending}, {}), (std::vector<uint32_t>{1, 2, 0}));
-    EXPECT_EQ(SortedRowOrder(rows, {0, kSortDescending}, {}), (std::vector<uint32_t>{0, 1, 2}));
 }
 
 }  // namespace

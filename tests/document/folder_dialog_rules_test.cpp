@@ -49,7 +49,7 @@ TEST(FolderProps, NewFolderModeRemembersTheChoiceOfSubFolderOrRoot) {
     EXPECT_FALSE(FolderPropsOk(env.common, true, "", "", 0, true));
 }
 
-TEST(FolderProps, PropertiesModeShowsTheFolderAndNoFrame) {
+TEST(FolderProps, PropertiesModeShowsTheFolderAndItsIconRow) {
     FolderNode node{"#00000007", "Rock", 19, "Loud00000007", -1, "Rock"};
     FolderPropsSetup setup = FolderPropsOf(node);
     EXPECT_EQ(setup.title, "Folder Properties");
@@ -58,9 +58,8 @@ TEST(FolderProps, PropertiesModeShowsTheFolderAndNoFrame) {
     EXPECT_FALSE(setup.showFrame);
     node.icon = 2;
     EXPECT_EQ(FolderPropsOf(node).iconRow, -1);
-}
 
-TEST(FolderIcons, EveryComboRowIsAnIconOfTheFolderImages) {
+    // Every row of the icon box is an icon of the folder images.
     auto table = FolderIconTable();
     ASSERT_EQ(table.size(), 16u);
     for (const FolderIconEntry& entry : table) {

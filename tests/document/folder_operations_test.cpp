@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "document/folder_operations.h"
 #include "document/folder_refresh.h"
 #include "platform/file_error.h"
@@ -24,14 +26,11 @@ struct Document {
         env.common.onPlugStart = [this](const std::string& name) { events.push_back(name); };
     }
     FolderTree tree() { return BuildFolderTree(ReadTocGroups(cfn)); }
-    // The position of the folder with this FullPath.
+    // The position of the folder with this FullPath, or -1.
     int at(const std::string& path) {
-        FolderTree current = tree();
-        for (int i = 0; i < current.size(); ++i) {
-            if (current.nodes[i].fullPath == path)
-                return i;
-        }
-        return -1;
+        const FolderTree current = tree();
+        const auto found = std::ranges::find(current.nodes, path, &FolderNode::fullPath);
+        return found == current.nodes.end() ? -1 : static_cast<int>(found - current.nodes.begin());
     }
     std::string bytes() const { return test::ReadAll(cfn); }
 
@@ -44,6 +43,9 @@ const std::vector<FolderSpec> kMusic = {{"Music\\", "", 10, "00000000"},
                                         {"Music\\Rock\\", "Loud", 4, "00000001"},
                                         {"Music2\\", "", 10, "00000002"},
                                         {"Art\\", "", 10, "00000003"}};
+
+// "Über" as a name written on Windows (Windows-1252) is stored.
+const std::string kUber1252 = "\334ber";
 
 FolderDialogResult Dialog(const std::string& name, bool asSubFolder = false,
                           const std::string& description = "", int icon = 10) {
@@ -73,42 +75,28 @@ TEST(CreateFolder, ASubFolderGoesUnderTheSelectionAndIsExpandedAfterwards) {
     EXPECT_TRUE(doc.env.common.ExpandAfterRefresh);
 }
 
-TEST(CreateFolder, AnExistingPathIsRefusedWithoutRegardToCase) {
-    Document doc(kMusic);
-    std::string before = doc.bytes();
-    FolderChange change =
-        CreateFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music"), Dialog("ROCK", true));
-    EXPECT_FALSE(change.changed);
-    EXPECT_EQ(doc.bytes(), before);
+TEST(CreateFolder, AnExistingNameIsRefusedAsStoredWithoutRegardToCaseOrCodePage) {
+    Document doc({kMusic[0],
+                  kMusic[1],
+                  {"x y\\", "", 10, "00000002"},
+                  {kUber1252 + "\\", "", 10, "00000003"}});
+    const std::string before = doc.bytes();
+    EXPECT_FALSE(
+        CreateFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music"), Dialog("ROCK", true))
+            .changed);
     ASSERT_EQ(doc.env.screen.shown.size(), 1u);
     EXPECT_EQ(doc.env.screen.shown[0].caption, "Error");
     EXPECT_EQ(doc.env.screen.shown[0].text, "The Folder \"Music\\ROCK\" does already exist!");
     EXPECT_EQ(doc.env.screen.shown[0].icon, MsgIcon::Critical);
-    EXPECT_TRUE(doc.events.empty());
-}
-
-TEST(CreateFolder, TheExistenceTestTakesTheNameAsStoredAndEitherCodePage) {
-    // "x y", and "Über" written on Windows (Windows-1252).
-    Document doc({{"x y\\", "", 10, "00000000"},
-                  {"\xDC"
-                   "ber\\",
-                   "", 10, "00000001"}});
-    const std::string before = doc.bytes();
-    for (const char* name : {"x\x01y", "x\ny", "X\rY",
-                             "\xC3\xBC"
-                             "ber",
-                             "\xC3\x9C"
-                             "BER"}) {
+    for (const char* name : {"x\x01y", "x\ny", "X\rY", "über", "ÜBER"}) {
         EXPECT_FALSE(CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1, Dialog(name)).changed)
             << name;
     }
     EXPECT_EQ(doc.bytes(), before);
-    EXPECT_EQ(doc.env.screen.shown.at(1).text, "The Folder \"x y\" does already exist!");
+    EXPECT_EQ(doc.env.screen.shown.at(2).text, "The Folder \"x y\" does already exist!");
+    EXPECT_TRUE(doc.events.empty());
     // A name from the other code page that is another letter is another folder.
-    EXPECT_TRUE(CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1,
-                             Dialog("\xC3\xBC"
-                                    "bel"))
-                    .changed);
+    EXPECT_TRUE(CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1, Dialog("übel")).changed);
 }
 
 TEST(DeleteFolder, RemovesSubFoldersAndTheirEntriesAndKeepsEmptyLines) {
@@ -182,17 +170,11 @@ TEST(FolderProperties, ACaseChangePassesAndAnotherExistingNameIsRefused) {
     EXPECT_EQ(doc.env.screen.shown.size(), 1u);
 
     // A Windows-1252 "Über" spelt "über" in UTF-8 is a change of case alone.
-    Document windows(
-        {{"\xDC"
-          "ber\\",
-          "", 10, "00000000"}});
-    EXPECT_TRUE(ChangeFolderProperties(windows.env.common, windows.cfn, windows.tree(), 0,
-                                       Dialog("\xC3\xBC"
-                                              "ber"))
-                    .changed);
-    EXPECT_EQ(windows.at("\xC3\xBC"
-                         "ber"),
-              0);
+    Document windows({{kUber1252 + "\\", "", 10, "00000000"}});
+    EXPECT_TRUE(
+        ChangeFolderProperties(windows.env.common, windows.cfn, windows.tree(), 0, Dialog("über"))
+            .changed);
+    EXPECT_EQ(windows.at("über"), 0);
     EXPECT_TRUE(windows.env.screen.shown.empty());
 }
 
@@ -256,8 +238,9 @@ TEST(FolderRewrites, AFailureAtAnyWriteLeavesTheWorkingCopyAsItWas) {
                               change(doc);
                           } catch (const FileError&) {
                           }
-                          if (armed.fired())
+                          if (armed.fired()) {
                               EXPECT_EQ(doc.bytes(), before);
+                          }
                           EXPECT_EQ(ReadEntryOffset(doc.cfn), FindTocEnd(doc.cfn));
                           return armed.fired();
                       }),

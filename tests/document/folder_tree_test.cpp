@@ -30,17 +30,6 @@ FolderTree MusicTree() {
          Record("Music\\Rock\\Hard\\", "00000004"), Record("Music\\Jazz\\", "00000005")});
 }
 
-TEST(FolderTree, AnEmptyTocGivesAnEmptyTreeAndNoFolderOnShow) {
-    test::TestEnvironment env;
-    test::WriteAll(env.folder / "e.zvx", test::CatalogueBytes({}, {}));
-    FolderTree tree = listak(env.common, env.folder / "e.zvx");
-    EXPECT_TRUE(tree.empty());
-    EXPECT_EQ(SelectAfterRefresh(env.common, -1, tree).node, -1);
-    FolderCaption caption = folderstats(tree, -1);
-    EXPECT_EQ(caption.caption, "Folder: None");
-    EXPECT_EQ(caption.tag, "");
-}
-
 TEST(FolderTree, FoldersFollowTheSortedListWithDescendantsBehindTheirFolder) {
     FolderTree tree = MusicTree();
     // Plain byte order: "2" and upper case letters sort before "\" and lower case.
@@ -58,23 +47,21 @@ TEST(FolderTree, FoldersFollowTheSortedListWithDescendantsBehindTheirFolder) {
     EXPECT_EQ(tree.nodes[1].parent, -1);
 }
 
-TEST(FolderTree, NamesWithLowControlCharactersStillFollowTheirFolder) {
+TEST(FolderTree, OddRecordsFindAPlace) {
+    // Low control characters sort before the backslash and still follow their folder.
     FolderTree tree = BuildFolderTree({Record("A\\\tX\\", "00000001"), Record("A\\", "00000000")});
     EXPECT_EQ(Paths(tree), (std::vector<std::string>{"A", "A\\\tX"}));
     EXPECT_EQ(tree.nodes[1].parent, 0);
-}
-
-TEST(FolderTree, OrphansGoUnderTheLastFolderAddedAndARepeatedIdIsLeftOut) {
-    FolderTree tree =
-        BuildFolderTree({Record("A\\", "00000000"), Record("A\\B\\", "00000001"),
-                         Record("A\\C\\D\\", "00000002"), Record("A\\C\\D\\E\\", "00000003")});
+    // Orphans go under the last folder added.
+    tree = BuildFolderTree({Record("A\\", "00000000"), Record("A\\B\\", "00000001"),
+                            Record("A\\C\\D\\", "00000002"), Record("A\\C\\D\\E\\", "00000003")});
     EXPECT_EQ(Paths(tree), (std::vector<std::string>{"A", "A\\B", "A\\B\\D", "A\\B\\D\\E"}));
     // Nothing added yet: a root folder instead of the tree control's error.
-    FolderTree first = BuildFolderTree({Record("X\\Y\\", "00000000")});
-    EXPECT_EQ(Paths(first), (std::vector<std::string>{"Y"}));
+    EXPECT_EQ(Paths(BuildFolderTree({Record("X\\Y\\", "00000000")})),
+              std::vector<std::string>{"Y"});
     // A second record with the same ID is left out.
-    FolderTree twice = BuildFolderTree({Record("A\\", "00000000"), Record("B\\", "00000000")});
-    EXPECT_EQ(Paths(twice), (std::vector<std::string>{"A"}));
+    tree = BuildFolderTree({Record("A\\", "00000000"), Record("B\\", "00000000")});
+    EXPECT_EQ(Paths(tree), std::vector<std::string>{"A"});
 }
 
 TEST(FolderTree, GarbledRecordsStillGiveATree) {
@@ -103,6 +90,14 @@ TEST(FolderTree, RebuildFiresItsEventAndRunsTheProgressBar) {
     EXPECT_EQ(env.screen.statuses.front(), "Refreshing Folder View...");
     EXPECT_EQ(env.screen.lastProgressMax, 3);
     EXPECT_EQ(env.screen.lastProgress, 3);
+
+    // An empty TOC gives an empty tree, nothing selected and no folder shown.
+    test::WriteAll(env.folder / "e.zvx", test::CatalogueBytes({}, {}));
+    tree = listak(env.common, env.folder / "e.zvx");
+    EXPECT_TRUE(tree.empty());
+    EXPECT_EQ(SelectAfterRefresh(env.common, -1, tree).node, -1);
+    EXPECT_EQ(folderstats(tree, -1).caption, "Folder: None");
+    EXPECT_EQ(folderstats(tree, -1).tag, "");
 }
 
 TEST(FolderTree, TheSamePositionIsSelectedAgainAndExpandedOnRequest) {
@@ -119,16 +114,13 @@ TEST(FolderTree, TheSamePositionIsSelectedAgainAndExpandedOnRequest) {
     EXPECT_FALSE(SelectAfterRefresh(env.common, 2, tree).expand);
 }
 
-TEST(FolderTree, CaptionShowsThePathAndADescriptionInParentheses) {
+TEST(FolderTree, CaptionLookupBranchAndRemovingChildren) {
     FolderTree tree = MusicTree();
     EXPECT_EQ(folderstats(tree, 2).caption, "Folder: Music");
-    FolderCaption rock = folderstats(tree, 4);
-    EXPECT_EQ(rock.caption, "Folder: Music\\Rock (Loud)");
-    EXPECT_EQ(rock.tag, "Music\\Rock");
-}
+    EXPECT_EQ(folderstats(tree, 4).caption, "Folder: Music\\Rock (Loud)");
+    EXPECT_EQ(folderstats(tree, 4).tag, "Music\\Rock");
 
-TEST(FolderTree, PathextrudeAndTheSelectedBranchCompareInLowerCase) {
-    FolderTree tree = MusicTree();
+    // Paths compare in lower case.
     EXPECT_EQ(pathextrude(tree, "music\\ROCK\\"), 4);
     EXPECT_EQ(pathextrude(tree, "music\\rock"), -1);
     EXPECT_EQ(pathextrude(tree, ""), -1);
@@ -138,10 +130,7 @@ TEST(FolderTree, PathextrudeAndTheSelectedBranchCompareInLowerCase) {
     EXPECT_TRUE(CollapseHidesShownFolder("Music\\Rock", "Music"));
     EXPECT_FALSE(CollapseHidesShownFolder("Music", "Music"));
     EXPECT_FALSE(CollapseHidesShownFolder("Art\\X", "Music"));
-}
 
-TEST(FolderTree, RemoveChildrenKeepsTheFolderAndTheOthers) {
-    FolderTree tree = MusicTree();
     RemoveChildren(tree, 2);
     EXPECT_EQ(Paths(tree), (std::vector<std::string>{"Art", "Music2", "Music", "b"}));
     EXPECT_EQ(tree.nodes[3].parent, -1);

@@ -34,11 +34,10 @@ TEST(FolderWindows, TheNewFolderNameLosesLeadingBlanksAsTheyAreTyped) {
 
 TEST(FolderWindows, TheRootTargetDisablesTheTreeOfTheMovingDialog) {
     test::TestEnvironment env;
-    MovingSetup setup;
-    setup.tree = BuildFolderTree({MakeTocGroup("A\\", "", 10, "00000000")});
-    setup.showFrame = true;
-    setup.subFolderTarget = false;
-    moving dialog(env.common, MovingMode::Folder, setup);
+    moving dialog(env.common, MovingMode::Folder,
+                  {.tree = BuildFolderTree({MakeTocGroup("A\\", "", 10, "00000000")}),
+                   .showFrame = true,
+                   .subFolderTarget = false});
     auto* tree = dialog.findChild<QTreeWidget*>("List1");
     EXPECT_FALSE(tree->isEnabled());
     dialog.findChild<QRadioButton*>("Option1")->click();

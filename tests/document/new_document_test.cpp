@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "document/document_table.h"
 #include "fake_windows.h"
 
 namespace zvx {
@@ -28,11 +29,10 @@ TEST(NewDocument, MakesAnEmptyWorkingCopyAndCountsAsChanged) {
                                   "Generating TOC...", "Updating TOC...", ""}));
 }
 
-TEST(NewDocument, CloseAsksWhetherToSaveAndNoDropsTheWorkingCopy) {
+TEST(NewDocument, CloseWithNoDropsTheWorkingCopyAndNamesCountOnWhileSlotsAreReused) {
     test::LifecycleBench bench;
     bench.lifecycle.LoadNewDoc();
     auto cfn = bench.current().cfn;
-
     bench.env.screen.answerMessage(MsgAnswer::No);
     bench.windows.closeView(bench.windows.active);
 
@@ -42,22 +42,13 @@ TEST(NewDocument, CloseAsksWhetherToSaveAndNoDropsTheWorkingCopy) {
     EXPECT_EQ(bench.env.screen.shown[0].buttons, MsgButtons::YesNo);
     EXPECT_FALSE(std::filesystem::exists(cfn));
     EXPECT_EQ(bench.events, (std::vector<std::string>{"ZVXNEW", "ZVXCLOSE"}));
-    EXPECT_EQ(bench.lifecycle.table().lowestFreeSlot(), 1);
     EXPECT_EQ(bench.env.screen.statuses.back(), "");
     EXPECT_EQ(bench.env.screen.lastProgressMax, 0);
-}
-
-TEST(NewDocument, NamesCountOnWhileSlotsAreReused) {
-    test::LifecycleBench bench;
-    bench.lifecycle.LoadNewDoc();
-    bench.env.screen.answerMessage(MsgAnswer::No);
-    bench.windows.closeView(bench.windows.active);
 
     bench.lifecycle.LoadNewDoc();
     EXPECT_EQ(bench.current().view->caption(), "Document 2");
     EXPECT_EQ(bench.current().slot, 1);
     EXPECT_EQ(bench.current().cfn.filename(), "Document 2.tmp");
-
     bench.lifecycle.LoadNewDoc();
     EXPECT_EQ(bench.current().view->caption(), "Document 3");
     EXPECT_EQ(bench.current().slot, 2);
@@ -76,6 +67,16 @@ TEST(NewDocument, CloseWithYesSavesThroughTheDialog) {
     EXPECT_EQ(bench.recent, std::vector<std::string>{target.string()});
     EXPECT_FALSE(std::filesystem::exists(bench.env.folder / "Document 1.tmp"));
     EXPECT_TRUE(bench.windows.views.empty());
+}
+
+TEST(DocumentTable, AFullTableHasNoFreeSlot) {
+    DocumentTable table;
+    test::FakeView view("a");
+    for (int slot = 1; slot <= DocumentTable::kSlots; ++slot)
+        table.use(slot, &view);
+    EXPECT_EQ(table.lowestFreeSlot(), 0);
+    table.release(DocumentTable::kSlots);
+    EXPECT_EQ(table.lowestFreeSlot(), DocumentTable::kSlots);
 }
 
 }  // namespace

@@ -84,16 +84,6 @@ TEST_F(OpenDocument, DialogsReadOnlyBoxProtectsTheFileButNotTheWorkingCopy) {
     EXPECT_FALSE(IsReadOnly(file));
 }
 
-TEST_F(OpenDocument, WrongExtensionIsRefused) {
-    auto text = bench.env.folder / "user" / "a.txt";
-    WriteAll(text, catalogue);
-    bench.open(text);
-    ASSERT_EQ(bench.env.screen.shown.size(), 1u);
-    EXPECT_EQ(bench.env.screen.shown[0].caption, "Error");
-    EXPECT_EQ(bench.env.screen.shown[0].text, "The file MUST have the extension \".zvx\" !");
-    ExpectNothingOpen();
-}
-
 TEST_F(OpenDocument, AlreadyOpenComparesWithoutCase) {
     bench.open(file);
     auto upper = bench.env.folder / "user" / "A.ZVX";
@@ -105,33 +95,40 @@ TEST_F(OpenDocument, AlreadyOpenComparesWithoutCase) {
     EXPECT_EQ(bench.lifecycle.table().lowestFreeSlot(), 2);
 }
 
-TEST_F(OpenDocument, TooNewVersionIsRefused) {
-    WriteAll(file, "\x02" + catalogue.substr(1));
-    bench.open(file);
-    ASSERT_EQ(bench.env.screen.shown.size(), 1u);
-    EXPECT_EQ(bench.env.screen.shown[0].caption, "ZVX-File-Version-Error");
-    EXPECT_EQ(bench.env.screen.shown[0].text,
-              "The ZVX-file-format seems to be too new for this version of ZVX!\r\nCheck the "
-              "file and visit our website for updates.");
-    EXPECT_EQ(bench.env.screen.shown[0].icon, MsgIcon::Critical);
+TEST_F(OpenDocument, AWrongExtensionATooNewVersionOrAMissingFileIsRefused) {
+    WriteAll(bench.env.folder / "user" / "a.txt", catalogue);
+    WriteAll(bench.env.folder / "user" / "new.zvx", "\x02" + catalogue.substr(1));
+    const struct {
+        const char* name;
+        const char* caption;
+        const char* text;
+        MsgIcon icon;
+    } refusals[] = {
+        {"a.txt", "Error", "The file MUST have the extension \".zvx\" !", MsgIcon::None},
+        {"new.zvx", "ZVX-File-Version-Error",
+         "The ZVX-file-format seems to be too new for this version of ZVX!\r\nCheck the file "
+         "and visit our website for updates.",
+         MsgIcon::Critical},
+        {"gone.zvx", "Error",
+         "An Error Occured while loading the ZVX!\r\nMake sure that the file does really exist "
+         "and is a valid ZVX.",
+         MsgIcon::Critical}};
+    for (const auto& refusal : refusals) {
+        bench.env.screen.shown.clear();
+        bench.open(bench.env.folder / "user" / refusal.name);
+        ASSERT_EQ(bench.env.screen.shown.size(), 1u) << refusal.name;
+        EXPECT_EQ(bench.env.screen.shown[0].caption, refusal.caption);
+        EXPECT_EQ(bench.env.screen.shown[0].text, refusal.text);
+        EXPECT_EQ(bench.env.screen.shown[0].icon, refusal.icon);
+        EXPECT_EQ(bench.env.screen.statuses.back(), "");
+        ExpectNothingOpen();
+    }
     EXPECT_TRUE(bench.recent.empty());
-    ExpectNothingOpen();
 
     // Older versions, and a file too short to have one, are accepted.
     WriteAll(file, std::string(1, '\0'));
     bench.open(file);
     EXPECT_EQ(bench.windows.views.size(), 1u);
-}
-
-TEST_F(OpenDocument, MissingFileTakesTheLoadErrorPath) {
-    bench.open(bench.env.folder / "user" / "gone.zvx");
-    ASSERT_EQ(bench.env.screen.shown.size(), 1u);
-    EXPECT_EQ(bench.env.screen.shown[0].caption, "Error");
-    EXPECT_EQ(bench.env.screen.shown[0].text,
-              "An Error Occured while loading the ZVX!\r\nMake sure that the file does really "
-              "exist and is a valid ZVX.");
-    EXPECT_EQ(bench.env.screen.statuses.back(), "");
-    ExpectNothingOpen();
 }
 
 }  // namespace

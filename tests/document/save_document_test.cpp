@@ -42,24 +42,24 @@ class SaveDocument : public ::testing::Test {
     fs::path file = user / "a.zvx";
 };
 
-TEST_F(SaveDocument, ReplacesTheFileWithTheWorkingCopy) {
+TEST_F(SaveDocument, ReplacesTheFileWithTheWorkingCopyAndAFailureKeepsTheOldOne) {
     Document& document = OpenChanged();
     bench.env.screen.statuses.clear();
     bench.lifecycle.SaveDoc(document);
-    EXPECT_EQ(ReadAll(file), ReadAll(document.cfn));
+    const std::string saved = ReadAll(document.cfn);
+    EXPECT_EQ(ReadAll(file), saved);
     EXPECT_FALSE(document.aender);
     EXPECT_EQ(FilesIn(user), 1u);
     EXPECT_EQ(bench.env.screen.statuses, (std::vector<std::string>{"Saving ZVX...", ""}));
-}
 
-TEST_F(SaveDocument, FailedSaveKeepsTheOldFileAndTheChangeFlag) {
-    Document& document = OpenChanged();
+    // A working copy that has gone cannot be saved: the file and the change flag stay.
     fs::remove(document.cfn);
+    document.aender = true;
     bench.lifecycle.SaveDoc(document);
     ASSERT_EQ(bench.env.screen.shown.size(), 1u);
     EXPECT_EQ(bench.env.screen.shown[0].text, "Unknown Error!");
     EXPECT_EQ(bench.env.screen.shown[0].icon, MsgIcon::Critical);
-    EXPECT_EQ(ReadAll(file), test::EmptyCatalogue());
+    EXPECT_EQ(ReadAll(file), saved);
     EXPECT_TRUE(document.aender);
     EXPECT_EQ(FilesIn(user), 1u);
 }
