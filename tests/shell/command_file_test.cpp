@@ -40,30 +40,23 @@ class HandOver : public ::testing::Test {
     test::TestEnvironment env;
 };
 
-TEST_F(HandOver, SecondInstancesAppendLinesThatLoadInOrder) {
+TEST_F(HandOver, SecondInstancesAppendLinesThatLoadInOrderARepeatedPathOnce) {
     const std::string a = Document("a b.zvx"), b = Document("b.zvx"), c = Document("c.zvx");
-    for (const std::string& path : {a, b, c})
+    for (const std::string& path : {a, a, b, c, a})
         EXPECT_TRUE(HandOverDocument(env.common, path));
-    EXPECT_EQ(test::ReadAll(commandFile()), a + "\r\n" + b + "\r\n" + c + "\r\n");
+    EXPECT_EQ(test::ReadAll(commandFile()),
+              a + "\r\n" + a + "\r\n" + b + "\r\n" + c + "\r\n" + a + "\r\n");
 
     RunningInstance running(env.common);
     running.poll.tick();
-    EXPECT_EQ(running.loaded, (std::vector<std::string>{a, b, c}));
+    // The same path again loads once, unless another came between.
+    EXPECT_EQ(running.loaded, (std::vector<std::string>{a, b, c, a}));
     // Each load takes its path as the pending document, which is cleared afterwards.
     EXPECT_EQ(running.pendingAtLoad, running.loaded);
     EXPECT_EQ(env.common.pendingDocument, "");
     EXPECT_EQ(running.raised, 1);
     EXPECT_EQ(env.screen.statuses, (std::vector<std::string>{kExternalLoadingStatus}));
     EXPECT_FALSE(std::filesystem::exists(commandFile()));
-}
-
-TEST_F(HandOver, ARepeatedPathLoadsOnceUnlessAnotherCameBetween) {
-    const std::string a = Document("a.zvx"), b = Document("b.zvx");
-    for (const std::string& path : {a, a, b, a})
-        HandOverDocument(env.common, path);
-    RunningInstance running(env.common);
-    running.poll.tick();
-    EXPECT_EQ(running.loaded, (std::vector<std::string>{a, b, a}));
 }
 
 TEST_F(HandOver, PathsNamingNoFileAreDroppedAndAnEmptyFileMeansNothing) {
@@ -97,7 +90,7 @@ TEST_F(HandOver, AnUnwritableCommandFileShowsTheErrorMessage) {
               "Try to Drag & Drop the file(s) directly into the ZVX Window!");
 }
 
-TEST_F(HandOver, AFailedTickLeavesTheFileForTheNextOne) {
+TEST_F(HandOver, AFailedTickLeavesTheFileForTheNextAndATickDuringALoadDoesNothing) {
     const std::string a = Document("a.zvx");
     HandOverDocument(env.common, a);
     RunningInstance running(env.common);
@@ -106,21 +99,12 @@ TEST_F(HandOver, AFailedTickLeavesTheFileForTheNextOne) {
     EXPECT_TRUE(std::filesystem::exists(commandFile()));
     EXPECT_EQ(env.common.pendingDocument, "");
 
-    running.onLoad = nullptr;
-    running.poll.tick();
-    EXPECT_EQ(running.loaded, (std::vector<std::string>{a, a}));
-    EXPECT_FALSE(std::filesystem::exists(commandFile()));
-}
-
-TEST_F(HandOver, ATickDuringALoadOfThePollDoesNothing) {
-    const std::string a = Document("a.zvx");
-    HandOverDocument(env.common, a);
-    RunningInstance running(env.common);
     // The load waits in a dialog, whose message loop serves the next timer tick.
     running.onLoad = [&running] { running.poll.tick(); };
     running.poll.tick();
-    EXPECT_EQ(running.loaded, (std::vector<std::string>{a}));
-    EXPECT_EQ(running.raised, 1);
+    EXPECT_EQ(running.loaded, (std::vector<std::string>{a, a}));
+    EXPECT_EQ(running.raised, 2);
+    EXPECT_FALSE(std::filesystem::exists(commandFile()));
 }
 
 TEST_F(HandOver, TheStartRemovesALeftoverCommandFile) {

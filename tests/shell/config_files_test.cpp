@@ -2,57 +2,42 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
-
 #include "store/column_setting_file.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
 namespace {
 
-std::string Lines(std::initializer_list<int> numbers) {
-    std::string text;
-    for (int number : numbers)
-        text += std::to_string(number) + "\r\n";
-    return text;
-}
+namespace fs = std::filesystem;
 
-const std::string kDefaultBytes =
-    Lines({0,  0,  1,  215, 2,  96,  3,  196, 4,  74,  7,  80, 5,  65, 8,  80,
-           6,  96, 18, 104, 10, 104, 15, 41,  9,  104, 11, 96, 12, 76, 13, 76,
-           14, 65, 16, 38,  17, 93,  19, 50,  20, 80,  21, 89, 22, 80});
-const std::string kAudioShortBytes =
-    Lines({0, 0, 15, 40, 10, 200, 9, 200, 19, 50, 11, 160, 16, 38, 2, 0,  1, 0,  3, 0,  17, 0,  4,
-           0, 7, 0,  5,  0,  8,   0, 6,   0,  18, 0,  12,  0,  13, 0, 14, 0, 20, 0, 21, 0,  22, 0});
-
-TEST(PrepareConfigFiles, WritesTheShippedLayoutsByteForByte) {
+// What the shipped layouts hold is checked where they are loaded (column_layout_test).
+TEST(PrepareConfigFiles, WritesTheShippedLayoutsOnceAndLeavesExistingOnesOfAnyCase) {
     test::TestEnvironment env;
     PrepareConfigFiles(env.common);
-    EXPECT_TRUE(std::filesystem::is_directory(env.folder / "CONFIG"));
-    EXPECT_TRUE(std::filesystem::is_directory(env.folder / "PLUGINS"));
-    EXPECT_EQ(test::ReadAll(env.folder / "CONFIG" / "Default.zvl"), kDefaultBytes);
-    EXPECT_EQ(test::ReadAll(env.folder / "CONFIG" / "Audio-Short.zvl"), kAudioShortBytes);
-    // A second start meets the folders and files in place and changes nothing.
+    EXPECT_TRUE(fs::is_directory(env.folder / "PLUGINS"));
+    const std::string shipped = test::ReadAll(env.folder / "CONFIG" / "Default.zvl");
+    EXPECT_TRUE(shipped.starts_with("0\r\n0\r\n1\r\n215\r\n2\r\n96\r\n")) << shipped;
+    EXPECT_TRUE(fs::exists(env.folder / "CONFIG" / "Audio-Short.zvl"));
+    test::WriteAll(env.folder / "CONFIG" / "Audio-Short.zvl", "mine");
     PrepareConfigFiles(env.common);
-    EXPECT_EQ(test::ReadAll(env.folder / "CONFIG" / "Default.zvl"), kDefaultBytes);
-}
+    EXPECT_EQ(test::ReadAll(env.folder / "CONFIG" / "Default.zvl"), shipped);
+    EXPECT_EQ(test::ReadAll(env.folder / "CONFIG" / "Audio-Short.zvl"), "mine");
 
-TEST(PrepareConfigFiles, LeavesExistingLayoutsAndFoldersOfAnyCaseAlone) {
-    test::TestEnvironment env;
-    std::filesystem::create_directory(env.folder / "config");
-    test::WriteAll(env.folder / "config" / "default.ZVL", "mine");
-    PrepareConfigFiles(env.common);
-    EXPECT_FALSE(std::filesystem::exists(env.folder / "CONFIG"));
-    EXPECT_EQ(test::ReadAll(env.folder / "config" / "default.ZVL"), "mine");
-    EXPECT_FALSE(std::filesystem::exists(env.folder / "config" / "Default.zvl"));
-    EXPECT_EQ(test::ReadAll(env.folder / "config" / "Audio-Short.zvl"), kAudioShortBytes);
+    test::TestEnvironment lower;
+    fs::create_directory(lower.folder / "config");
+    test::WriteAll(lower.folder / "config" / "default.ZVL", "mine");
+    PrepareConfigFiles(lower.common);
+    EXPECT_FALSE(fs::exists(lower.folder / "CONFIG"));
+    EXPECT_EQ(test::ReadAll(lower.folder / "config" / "default.ZVL"), "mine");
+    EXPECT_FALSE(fs::exists(lower.folder / "config" / "Default.zvl"));
+    EXPECT_TRUE(fs::exists(lower.folder / "config" / "Audio-Short.zvl"));
 }
 
 TEST(PrepareConfigFiles, IgnoresAFolderThatCannotBeMade) {
     test::TestEnvironment env;
     test::WriteAll(env.folder / "CONFIG", "a file where the folder belongs");
     EXPECT_NO_THROW(PrepareConfigFiles(env.common));
-    EXPECT_TRUE(std::filesystem::is_directory(env.folder / "PLUGINS"));
+    EXPECT_TRUE(fs::is_directory(env.folder / "PLUGINS"));
 }
 
 TEST(ColumnSettingFile, ToleratesAShortFileAndNonNumericLines) {

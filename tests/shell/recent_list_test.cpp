@@ -27,7 +27,7 @@ TEST(RecentList, AnOpenedDocumentMovesToTheTopIgnoringCase) {
     EXPECT_EQ(refreshes, 4);
 }
 
-TEST(RecentList, TheEleventhDocumentPushesOutTheOldest) {
+TEST(RecentList, TheEleventhDocumentPushesOutTheOldestAndCaptionsAreNumbered) {
     test::TestEnvironment env;
     for (int i = 1; i <= 11; ++i)
         RecentAdd(env.common, "/m/" + std::to_string(i) + ".zvx");
@@ -38,9 +38,7 @@ TEST(RecentList, TheEleventhDocumentPushesOutTheOldest) {
     RecentAdd(env.common, "/m/5.zvx");
     EXPECT_EQ(env.common.Recentlist.size(), 10u);
     EXPECT_EQ(env.common.Recentlist.back(), "/m/2.zvx");
-}
-
-TEST(RecentList, CaptionsCarryAMnemonicDigit) {
+    // The menu captions of the first and the tenth carry their number as mnemonic.
     EXPECT_EQ(RecentCaption(1, "/m/a b.zvx"), "0&1 /m/a b.zvx");
     EXPECT_EQ(RecentCaption(10, "/m/a.zvx"), "&10 /m/a.zvx");
 }

@@ -49,19 +49,12 @@ TEST(WindowSettings, BarsHiddenAtTheEndStayHiddenOnlyByTheirFirstAndFourthKeys) 
 
 TEST(WindowSettings, GeometryIsWrittenOnlyForANormalWindow) {
     test::TestEnvironment env;
-    WindowSettings settings;
-    settings.left = 300;
-    settings.top = 450;
-    settings.width = 9000;
-    settings.height = 7005;
-    settings.winState = kWindowNormal;
-    StoreWindowSettings(env.common, settings);
-
+    StoreWindowSettings(
+        env.common,
+        {.left = 300, .top = 450, .width = 9000, .height = 7005, .winState = kWindowNormal});
     for (int state : {kWindowMaximized, kWindowMinimized}) {
-        WindowSettings other = settings;
-        other.left = other.top = other.width = other.height = 15;
-        other.winState = state;
-        StoreWindowSettings(env.common, other);
+        StoreWindowSettings(env.common,
+                            {.left = 15, .top = 15, .width = 15, .height = 15, .winState = state});
         WindowSettings loaded = LoadWindowSettings(env.common);
         EXPECT_EQ(loaded.left, 300);
         EXPECT_EQ(loaded.top, 450);
@@ -77,10 +70,7 @@ TEST(WindowSettings, TheEndOfARunStoresPathsAndTheRecentList) {
     env.common.lastLoadPath = "/load";
     env.common.lastAddPath = "/add";
     env.common.Recentlist = {"/m/a.zvx"};
-    WindowSettings settings;
-    settings.statusBar = false;
-    settings.showNewsClient = false;
-    StoreWindowSettings(env.common, settings);
+    StoreWindowSettings(env.common, {.statusBar = false, .showNewsClient = false});
     EXPECT_EQ(Stored(env.common, "StatusBar"), "NO");
     EXPECT_EQ(Stored(env.common, "SHOWNEWSCLIENT"), "NO");
     EXPECT_EQ(Stored(env.common, "NEWSCLIENTMINIMIZED"), "NO");
