@@ -12,15 +12,6 @@ namespace {
 using test::TempFolder;
 using test::WriteAll;
 
-TEST(FileInfo, NothingSelected) {
-    for (const auto& paths : {std::vector<std::string>{}, std::vector<std::string>{""},
-                              std::vector<std::string>{std::string("\0/tmp/a", 7)}}) {
-        const FileInfoTexts texts = FileInfo(paths);
-        EXPECT_EQ(texts.info, "<no file(s) selected!>");
-        EXPECT_EQ(texts.folder, "<no file(s) selected!>");
-    }
-}
-
 TEST(FileInfo, FolderAndSingleFile) {
     TempFolder folder;
     const FileInfoTexts forFolder = FileInfo({folder.path().string()});
@@ -47,7 +38,7 @@ TEST(FileInfo, FolderAndSingleFile) {
     EXPECT_EQ(unknown.icon, 18);
 }
 
-TEST(FileInfo, SeveralFiles) {
+TEST(FileInfo, SeveralFilesOrNone) {
     TempFolder folder;
     WriteAll(folder / "a.mp3", "123");
     WriteAll(folder / "b.mp3", "1234567");
@@ -57,6 +48,13 @@ TEST(FileInfo, SeveralFiles) {
     EXPECT_EQ(texts.type, "<multiple files selected>");
     EXPECT_EQ(texts.icon, 0);
     EXPECT_EQ(texts.folder, "Path: " + folder.path().string());
+
+    // No path, an empty one, or one that ends at once at a NUL: nothing is selected.
+    for (const auto& paths : {std::vector<std::string>{}, std::vector<std::string>{""},
+                              std::vector<std::string>{std::string("\0/tmp/a", 7)}}) {
+        EXPECT_EQ(FileInfo(paths).info, "<no file(s) selected!>");
+        EXPECT_EQ(FileInfo(paths).folder, "<no file(s) selected!>");
+    }
 }
 
 }  // namespace
