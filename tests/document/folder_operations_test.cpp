@@ -33,6 +33,19 @@ struct Document {
         return found == current.nodes.end() ? -1 : static_cast<int>(found - current.nodes.begin());
     }
     std::string bytes() const { return test::ReadAll(cfn); }
+    // The operations on the folder at `path` ("" for none selected).
+    FolderChange create(const std::string& path, const FolderDialogResult& dialog) {
+        return CreateFolder(env.common, cfn, tree(), at(path), dialog);
+    }
+    FolderChange remove(const std::string& path) {
+        return DeleteFolder(env.common, cfn, tree(), at(path));
+    }
+    FolderChange change(const std::string& path, const FolderDialogResult& dialog) {
+        return ChangeFolderProperties(env.common, cfn, tree(), at(path), dialog);
+    }
+    FolderChange move(const std::string& path, const std::string& leaf, const std::string& target) {
+        return extrememoving(env.common, cfn, tree(), path, leaf, target);
+    }
 
     test::TestEnvironment env;
     std::filesystem::path cfn = env.folder / "Document 1.tmp";
@@ -54,7 +67,7 @@ FolderDialogResult Dialog(const std::string& name, bool asSubFolder = false,
 
 TEST(CreateFolder, TheFirstFolderGetsIdZeroAndStandsBehindTheToc) {
     Document doc({}, {EntryLineOf("00000009", {"x"})});
-    FolderChange change = CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1, Dialog("a"));
+    FolderChange change = doc.create("", Dialog("a"));
     EXPECT_TRUE(change.changed);
     EXPECT_EQ(change.id, "00000000");
     EXPECT_EQ(doc.bytes(),
@@ -66,8 +79,7 @@ TEST(CreateFolder, TheFirstFolderGetsIdZeroAndStandsBehindTheToc) {
 
 TEST(CreateFolder, ASubFolderGoesUnderTheSelectionAndIsExpandedAfterwards) {
     Document doc(kMusic);
-    FolderChange change = CreateFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music\\Rock"),
-                                       Dialog("Hard", true, "very", 12));
+    FolderChange change = doc.create("Music\\Rock", Dialog("Hard", true, "very", 12));
     EXPECT_EQ(change.id, "00000004");
     std::vector<FolderSpec> expected = kMusic;
     expected.push_back({"Music\\Rock\\Hard\\", "very", 12, "00000004"});
@@ -81,22 +93,19 @@ TEST(CreateFolder, AnExistingNameIsRefusedAsStoredWithoutRegardToCaseOrCodePage)
                   {"x y\\", "", 10, "00000002"},
                   {kUber1252 + "\\", "", 10, "00000003"}});
     const std::string before = doc.bytes();
-    EXPECT_FALSE(
-        CreateFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music"), Dialog("ROCK", true))
-            .changed);
+    EXPECT_FALSE(doc.create("Music", Dialog("ROCK", true)).changed);
     ASSERT_EQ(doc.env.screen.shown.size(), 1u);
     EXPECT_EQ(doc.env.screen.shown[0].caption, "Error");
     EXPECT_EQ(doc.env.screen.shown[0].text, "The Folder \"Music\\ROCK\" does already exist!");
     EXPECT_EQ(doc.env.screen.shown[0].icon, MsgIcon::Critical);
     for (const char* name : {"x\x01y", "x\ny", "X\rY", "über", "ÜBER"}) {
-        EXPECT_FALSE(CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1, Dialog(name)).changed)
-            << name;
+        EXPECT_FALSE(doc.create("", Dialog(name)).changed) << name;
     }
     EXPECT_EQ(doc.bytes(), before);
     EXPECT_EQ(doc.env.screen.shown.at(2).text, "The Folder \"x y\" does already exist!");
     EXPECT_TRUE(doc.events.empty());
     // A name from the other code page that is another letter is another folder.
-    EXPECT_TRUE(CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1, Dialog("übel")).changed);
+    EXPECT_TRUE(doc.create("", Dialog("übel")).changed);
 }
 
 TEST(DeleteFolder, RemovesSubFoldersAndTheirEntriesAndKeepsEmptyLines) {
@@ -108,7 +117,7 @@ TEST(DeleteFolder, RemovesSubFoldersAndTheirEntriesAndKeepsEmptyLines) {
               "Are you sure that you want delete the selected Folder,\rall its Sub-Folders and "
               "ALL contained entries?");
     EXPECT_EQ(doc.env.screen.shown[0].buttons, MsgButtons::YesNo);
-    FolderChange change = DeleteFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music"));
+    FolderChange change = doc.remove("Music");
     EXPECT_TRUE(change.changed);
     // Music2 only begins with the same letters: it stays.
     EXPECT_EQ(doc.bytes(),
@@ -124,10 +133,10 @@ TEST(DeleteFolder, TheDeletedIdGoesToTheNextNewFolder) {
     Document doc(kMusic);
     doc.env.screen.answerMessage(MsgAnswer::No);
     EXPECT_FALSE(ConfirmFolderDelete(doc.env.common));
-    DeleteFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music2"));
-    FolderChange change = CreateFolder(doc.env.common, doc.cfn, doc.tree(), -1, Dialog("New"));
+    doc.remove("Music2");
+    FolderChange change = doc.create("", Dialog("New"));
     EXPECT_EQ(change.id, "00000002");
-    EXPECT_FALSE(DeleteFolder(doc.env.common, doc.cfn, FolderTree{}, -1).changed);
+    EXPECT_FALSE(doc.remove("").changed);  // nothing selected
 }
 
 TEST(DeleteFolder, MoreFoldersThanTheIdListHoldsFailBeforeAnythingIsWritten) {
@@ -143,8 +152,7 @@ TEST(DeleteFolder, MoreFoldersThanTheIdListHoldsFailBeforeAnythingIsWritten) {
 
 TEST(FolderProperties, RenamingMusicMakesItsSiblingMusic2AChild) {
     Document doc(kMusic, {EntryLineOf("00000000", {"a"})});
-    FolderChange change = ChangeFolderProperties(doc.env.common, doc.cfn, doc.tree(),
-                                                 doc.at("Music"), Dialog("Sound", false, "new", 5));
+    FolderChange change = doc.change("Music", Dialog("Sound", false, "new", 5));
     EXPECT_TRUE(change.changed);
     EXPECT_EQ(doc.bytes(), CatalogueBytes({{"Sound\\", "new", 5, "00000000"},
                                            {"Sound\\Rock\\", "Loud", 4, "00000001"},
@@ -158,22 +166,16 @@ TEST(FolderProperties, RenamingMusicMakesItsSiblingMusic2AChild) {
 TEST(FolderProperties, ACaseChangePassesAndAnotherExistingNameIsRefused) {
     Document doc(kMusic);
     std::string before = doc.bytes();
-    EXPECT_FALSE(
-        ChangeFolderProperties(doc.env.common, doc.cfn, doc.tree(), doc.at("Music2"), Dialog("art"))
-            .changed);
+    EXPECT_FALSE(doc.change("Music2", Dialog("art")).changed);
     EXPECT_EQ(doc.env.screen.shown.at(0).text, "The Folder \"art\" does already exist!");
     EXPECT_EQ(doc.bytes(), before);
-    EXPECT_TRUE(ChangeFolderProperties(doc.env.common, doc.cfn, doc.tree(), doc.at("Music\\Rock"),
-                                       Dialog("ROCK", false, "Loud", 4))
-                    .changed);
+    EXPECT_TRUE(doc.change("Music\\Rock", Dialog("ROCK", false, "Loud", 4)).changed);
     EXPECT_NE(doc.at("Music\\ROCK"), -1);
     EXPECT_EQ(doc.env.screen.shown.size(), 1u);
 
     // A Windows-1252 "Über" spelt "über" in UTF-8 is a change of case alone.
     Document windows({{kUber1252 + "\\", "", 10, "00000000"}});
-    EXPECT_TRUE(
-        ChangeFolderProperties(windows.env.common, windows.cfn, windows.tree(), 0, Dialog("über"))
-            .changed);
+    EXPECT_TRUE(windows.change(kUber1252, Dialog("über")).changed);
     EXPECT_EQ(windows.at("über"), 0);
     EXPECT_TRUE(windows.env.screen.shown.empty());
 }
@@ -182,8 +184,7 @@ TEST(MoveFolder, MovesTheFolderWithItsSubFoldersAndLeavesEntriesAlone) {
     std::vector<FolderSpec> folders = kMusic;
     folders.push_back({"Music\\Rock\\Hard\\", "", 10, "00000004"});
     Document doc(folders, {EntryLineOf("00000004", {"h"})});
-    FolderChange change =
-        extrememoving(doc.env.common, doc.cfn, doc.tree(), "Music\\Rock", "Rock", "Art\\");
+    FolderChange change = doc.move("Music\\Rock", "Rock", "Art\\");
     EXPECT_TRUE(change.changed);
     EXPECT_EQ(change.reselect, "Art\\");
     EXPECT_EQ(doc.bytes(), CatalogueBytes({kMusic[0],
@@ -194,7 +195,7 @@ TEST(MoveFolder, MovesTheFolderWithItsSubFoldersAndLeavesEntriesAlone) {
                                           {EntryLineOf("00000004", {"h"})}));
     EXPECT_EQ(doc.events, std::vector<std::string>{"ZVXFOLDERMOVE"});
 
-    change = extrememoving(doc.env.common, doc.cfn, doc.tree(), "Art\\Rock", "Rock", "\\");
+    change = doc.move("Art\\Rock", "Rock", "\\");
     EXPECT_EQ(change.reselect, "");
     EXPECT_NE(doc.at("Rock\\Hard"), -1);
 }
@@ -202,10 +203,9 @@ TEST(MoveFolder, MovesTheFolderWithItsSubFoldersAndLeavesEntriesAlone) {
 TEST(MoveFolder, RefusalsComeInTheirOrder) {
     Document doc(kMusic);
     std::string before = doc.bytes();
-    FolderTree tree = doc.tree();
     auto move = [&](const std::string& source, const std::string& leaf, const std::string& target) {
         doc.env.screen.shown.clear();
-        EXPECT_FALSE(extrememoving(doc.env.common, doc.cfn, tree, source, leaf, target).changed);
+        EXPECT_FALSE(doc.move(source, leaf, target).changed);
         return doc.env.screen.shown.empty() ? std::string() : doc.env.screen.shown[0].text;
     };
     // A cancelled dialog with a root folder selected meets the same-name test.
@@ -223,11 +223,8 @@ TEST(MoveFolder, RefusalsComeInTheirOrder) {
 TEST(FolderRewrites, AFailureAtAnyWriteLeavesTheWorkingCopyAsItWas) {
     using Change = std::function<void(Document&)>;
     const Change changes[] = {
-        [](Document& doc) { DeleteFolder(doc.env.common, doc.cfn, doc.tree(), doc.at("Music")); },
-        [](Document& doc) {
-            ChangeFolderProperties(doc.env.common, doc.cfn, doc.tree(), doc.at("Music"),
-                                   Dialog("Songs", false, "renamed"));
-        }};
+        [](Document& doc) { doc.remove("Music"); },
+        [](Document& doc) { doc.change("Music", Dialog("Songs", false, "renamed")); }};
     for (const Change& change : changes) {
         for (const test::FaultKind& fault : test::kFaultKinds) {
             EXPECT_GE(test::ForEachFault([&](int n) {
