@@ -95,7 +95,7 @@ TEST_F(SaveDocument, ASaveThatFailsAnywhereLeavesTheOldFileWhole) {
     }
 }
 
-TEST_F(SaveDocument, NeverSavedDocumentGoesToTheDialogAndCancelKeepsIt) {
+TEST_F(SaveDocument, NeverSavedDocumentGoesToTheDialogWhereCancelKeepsItAndANameIsTaken) {
     bench.env.common.lastSavePath = "/saves";
     for (int i = 0; i < 3; ++i)
         bench.lifecycle.LoadNewDoc();
@@ -110,11 +110,8 @@ TEST_F(SaveDocument, NeverSavedDocumentGoesToTheDialogAndCancelKeepsIt) {
     EXPECT_EQ(request.startFolder, "/saves");
     EXPECT_EQ(document.view->caption(), "Document 3");
     EXPECT_TRUE(document.aender);
-}
 
-TEST_F(SaveDocument, SaveAsAddsTheExtensionAndTakesTheNewName) {
-    bench.lifecycle.LoadNewDoc();
-    Document& document = bench.current();
+    // Save as adds the extension and takes the new name.
     bench.env.screen.answerFileDialog({{(user / "out").string()}, false});
     bench.lifecycle.SaveAsDoc(document);
     EXPECT_EQ(document.view->caption(), (user / "out.zvx").string());
