@@ -3,24 +3,21 @@
 #include <string>
 #include <vector>
 
-#include "platform/file_error.h"
 #include "store/append_entry.h"
 #include "store/duplicate_check.h"
 #include "store/entry_offset.h"
 #include "store/folder_listing.h"
 #include "store/new_catalogue.h"
 #include "support/catalogue_bytes.h"
+#include "support/entry_lines.h"
 #include "support/fault_loop.h"
+#include "support/file_error_number.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
 namespace {
 
-std::vector<std::string> Listing(const std::filesystem::path& file, const std::string& id) {
-    std::vector<std::string> lines;
-    ListFolderEntries(file, id, [&](std::string_view line) { lines.emplace_back(line); });
-    return lines;
-}
+using test::FolderLines;
 
 TEST(AppendEntry, AppendsOneLineInTheCaseModeAndLeavesHeaderAndTocAlone) {
     test::TestEnvironment env;
@@ -38,20 +35,16 @@ TEST(AppendEntry, AppendsOneLineInTheCaseModeAndLeavesHeaderAndTocAlone) {
     const std::string after = test::ReadAll(file);
     EXPECT_EQ(after.substr(0, before.size()), before);
     EXPECT_EQ(after.substr(after.size() - 2), "\r\n");
-    EntryFields f = SplitEntryLine(Listing(file, "00000000").at(0));
-    EXPECT_EQ(f[9], "The Best Of_Rock");  // "_" splits words in new entries
-    EXPECT_EQ(f[12], "rock");             // the genre and style keep their case
-    EXPECT_EQ(f[14], "soft rock");
-    EXPECT_EQ(f[15], "05");
+    // "_" splits words in new entries; the genre and style keep their case.
+    EXPECT_EQ(test::Fields(FolderLines(file, "00000000").at(0), {9, 12, 14, 15}),
+              "The Best Of_Rock|rock|soft rock|05|");
 
     env.common.settings.caseMode = 0;
     env.common.settings.renumberingLevel = 3;
     v.title = "mIxEd";
     v.track = "12";
     AppendEntry(env.common, file, "00000000", "c:\\b.mp3", v, false, false);
-    f = SplitEntryLine(Listing(file, "00000000").at(1));
-    EXPECT_EQ(f[9], "mIxEd");
-    EXPECT_EQ(f[15], "0012");
+    EXPECT_EQ(test::Fields(FolderLines(file, "00000000").at(1), {9, 15}), "mIxEd|0012|");
 }
 
 // Outside a run a line is appended at once; an overwritten old line is struck only after
@@ -74,18 +67,13 @@ TEST(AppendEntry, AFailedAppendOrStrikeLeavesTheCatalogueAsItWas) {
                                            overwrite);
                     };
                     InjectedFileFault armed(fault.kind, n, fault.err);
-                    bool failed = false;
-                    try {
-                        append();
-                    } catch (const FileError&) {
-                        failed = true;
-                    }
+                    const bool failed = test::ErrorNumberOf(append) != 0;
                     EXPECT_EQ(failed, armed.fired());
                     if (!failed)
                         return false;
                     EXPECT_EQ(test::ReadAll(file), before);
                     append();
-                    const std::string added = Listing(file, "00000000").back();
+                    const std::string added = FolderLines(file, "00000000").back();
                     const auto kept = overwrite ? std::vector<std::string>{other, added}
                                                 : std::vector<std::string>{old, other, added};
                     EXPECT_EQ(test::ReadAll(file), test::CatalogueBytes(toc, kept));
@@ -107,9 +95,9 @@ TEST(FolderListing, FindsAFoldersLinesFromTheEntryOffset) {
         {{"a\\", "", 10, "00000001"}, {"b\\", "", 10, "00000002"}}, {a1, "short", b1, "", a2});
     bytes.erase(bytes.size() - 2);  // the last line has no CR LF
     test::WriteAll(file, bytes);
-    EXPECT_EQ(Listing(file, "00000001"), (std::vector<std::string>{a1, a2}));
-    EXPECT_EQ(Listing(file, "00000002"), (std::vector<std::string>{b1}));
-    EXPECT_TRUE(Listing(file, "00000009").empty());
+    EXPECT_EQ(FolderLines(file, "00000001"), (std::vector<std::string>{a1, a2}));
+    EXPECT_EQ(FolderLines(file, "00000002"), (std::vector<std::string>{b1}));
+    EXPECT_TRUE(FolderLines(file, "00000009").empty());
 }
 
 TEST(FolderListing, AHugeLineIsReadWhole) {
@@ -117,7 +105,7 @@ TEST(FolderListing, AHugeLineIsReadWhole) {
     auto file = env.folder / "huge.zvx";
     std::string huge = test::EntryLineOf("00000000", {std::string(10 << 20, 'x')});
     test::WriteAll(file, test::CatalogueBytes({}, {huge, test::EntryLineOf("00000000", {"b"})}));
-    auto lines = Listing(file, "00000000");
+    auto lines = FolderLines(file, "00000000");
     ASSERT_EQ(lines.size(), 2u);
     EXPECT_EQ(lines[0].size(), huge.size());
 }

@@ -23,27 +23,20 @@ enum class Check { FullScan, Index, CollidingIndex };
 
 // A small world of keys, so that a run meets many duplicates, several of one key. The
 // folder ID with a "\" behind it is the same key as the bare one.
-class Draw {
-  public:
-    explicit Draw(unsigned seed) : random_(seed) {}
+struct Draw {
     const char* pick(std::vector<const char*> choices) {
-        return choices[random_() % choices.size()];
+        return choices[random() % choices.size()];
     }
-    std::string number() { return std::to_string(random_() % 1000); }
-    bool oneIn(unsigned n) { return random_() % n == 0; }
-
-  private:
-    std::mt19937 random_;
+    std::string number() { return std::to_string(random() % 1000); }
+    bool oneIn(unsigned n) { return random() % n == 0; }
+    std::mt19937 random;
 };
 
 std::string DrawLine(Draw& draw) {
-    std::string line = draw.pick({"00000001", "00000002", "00000001\\"});
-    for (const std::string& field :
-         {std::string(draw.pick({"a.mp3", "b.mp3", "c.mp3"})), draw.number(),
-          std::string(draw.pick({"c:\\m", "c:\\n"})), std::string(draw.pick({"CD1", "CD2"})),
-          std::string("0"), std::string(), "01-0" + draw.number() + "-2000"})
-        line += '\x01' + field;
-    return line + std::string(15, '\x01');
+    const std::string id = draw.pick({"00000001", "00000002", "00000001\\"});
+    return test::EntryLineOf(
+        id, {draw.pick({"a.mp3", "b.mp3", "c.mp3"}), draw.number(), draw.pick({"c:\\m", "c:\\n"}),
+             draw.pick({"CD1", "CD2"}), "0", "", "01-0" + draw.number() + "-2000"});
 }
 
 std::string CatalogueOf(const std::vector<std::string>& lines, Layout layout) {
@@ -72,7 +65,7 @@ Outcome RunAdds(unsigned seed, Layout layout, Check check) {
     test::TestEnvironment env;
     env.common.settings.caseMode = 0;
     const std::filesystem::path file = env.folder / "Document 1.tmp";
-    Draw draw(seed);
+    Draw draw{std::mt19937(seed)};
     std::vector<std::string> lines;
     for (int i = 0; i < 30; ++i)
         lines.push_back(DrawLine(draw));

@@ -6,30 +6,25 @@
 #include "store/entry_line.h"
 #include "store/split_path.h"
 #include "store/track_format.h"
+#include "support/entry_lines.h"
 
 namespace zvx {
 namespace {
 
-TEST(SplitPath, SplitsFromTheRightEnd) {
-    SplitPathResult p = SplitPath("c:\\Music\\a.b.mp3");
-    EXPECT_EQ(p.drive, "c:");
-    EXPECT_EQ(p.folder, "c:\\Music");
-    EXPECT_EQ(p.name, "a.b");
-    EXPECT_EQ(p.extension, "mp3");
-    EXPECT_TRUE(p.hasExtension);
-    EXPECT_EQ(p.fileName(), "a.b.mp3");
+// Drive, folder, name, extension and file name of the path, each followed by "|".
+std::string Parts(std::string_view path) {
+    const SplitPathResult p = SplitPath(path);
+    return p.drive + "|" + p.folder + "|" + p.name + "|" + (p.hasExtension ? p.extension : "-") +
+           "|" + p.fileName() + "|";
+}
 
-    EXPECT_EQ(SplitPath("c:\\a.mp3").folder, "c:");
+TEST(SplitPath, SplitsFromTheRightEnd) {
+    EXPECT_EQ(Parts("c:\\Music\\a.b.mp3"), "c:|c:\\Music|a.b|mp3|a.b.mp3|");
+    EXPECT_EQ(Parts("c:\\a.mp3"), "c:|c:|a|mp3|a.mp3|");
     // A dot in a folder name is not the extension's.
-    p = SplitPath("c:\\my.dir\\README");
-    EXPECT_EQ(p.name, "README");
-    EXPECT_FALSE(p.hasExtension);
-    EXPECT_EQ(p.fileName(), "README");
+    EXPECT_EQ(Parts("c:\\my.dir\\README"), "c:|c:\\my.dir|README|-|README|");
     // Without any "\" there is neither name nor folder.
-    p = SplitPath("a.mp3");
-    EXPECT_EQ(p.name, "");
-    EXPECT_EQ(p.folder, "");
-    EXPECT_EQ(p.drive, "");
+    EXPECT_TRUE(Parts("a.mp3").starts_with("|||"));
 }
 
 TEST(EntryLine, ComposesTwentyTwoFieldsBehindTheFolderId) {
@@ -41,46 +36,27 @@ TEST(EntryLine, ComposesTwentyTwoFieldsBehindTheFolderId) {
     v.year = "1999";
     std::string line = ComposeEntryLine("00000007", "C:\\Music\\a.b.mp3", v, true, 1);
     EXPECT_EQ(std::count(line.begin(), line.end(), '\x01'), 22);
-    EntryFields f = SplitEntryLine(line);
-    EXPECT_EQ(f[0], "00000007");
-    EXPECT_EQ(f[1], "a.b.mp3");
-    EXPECT_EQ(f[2], "4800000");
-    EXPECT_EQ(f[3], "c:\\Music");  // the drive letter is lower-cased
-    EXPECT_EQ(f[4], "MUSIC_CD");
-    EXPECT_EQ(f[5], "1");
-    EXPECT_EQ(f[9], "Song");
-    EXPECT_EQ(f[15], "03");  // the track format of level 1
-    EXPECT_EQ(f[16], "1999");
-    EXPECT_EQ(f[22], "");
-    EXPECT_EQ(SplitEntryLine(ComposeEntryLine("00000000", "c:\\a.mp3", {}, false, 1))[3], "c:");
+    // The drive letter is lower-cased; the track has the format of level 1.
+    EXPECT_EQ(test::Fields(line, {0, 1, 2, 3, 4, 5, 9, 15, 16, 22}),
+              "00000007|a.b.mp3|4800000|c:\\Music|MUSIC_CD|1|Song|03|1999||");
+    EXPECT_EQ(test::Fields(ComposeEntryLine("00000000", "c:\\a.mp3", {}, false, 1), {3}), "c:|");
 }
 
 TEST(EntryLine, FieldsFromTheDiskCannotBreakTheLine) {
     EntryValues v;
     v.title = "two\r\nlines";
-    v.comment =
-        "a\x01"
-        "b";
+    v.comment = "a\001b";
     std::string line = ComposeEntryLine("00000000", "\\home\\u\\odd\nname.mp3", v, false, 1);
     EXPECT_EQ(line.find_first_of("\r\n"), std::string::npos);
     EXPECT_EQ(std::count(line.begin(), line.end(), '\x01'), 22);
-    EntryFields f = SplitEntryLine(line);
-    EXPECT_EQ(f[1], "odd name.mp3");
-    EXPECT_EQ(f[9], "two  lines");
-    EXPECT_EQ(f[17], "a b");
+    EXPECT_EQ(test::Fields(line, {1, 9, 17}), "odd name.mp3|two  lines|a b|");
 }
 
 TEST(EntryLine, SplittingDropsWhatStandsBeforeTheFirstSeparator) {
-    // A line written by a copy through the menu has "\" as its ninth character.
-    EntryFields f = SplitEntryLine(
-        "00000001\\\x01name\x01"
-        "12");
-    EXPECT_EQ(f[0], "00000001");
-    EXPECT_EQ(f[1], "name");
-    EXPECT_EQ(f[2], "12");
-    // A short line repeats its last field in every field behind it.
-    EXPECT_EQ(f[3], "12");
-    EXPECT_EQ(f[22], "12");
+    // A line written by a copy through the menu has "\" as its ninth character. A short
+    // line repeats its last field in every field behind it.
+    EXPECT_EQ(test::Fields("00000001\\\001name\00112", {0, 1, 2, 3, 22}),
+              "00000001|name|12|12|12|");
     EXPECT_EQ(SplitEntryLine("0000")[5], "");
 }
 

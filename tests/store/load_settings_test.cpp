@@ -24,14 +24,12 @@ TEST_F(LoadSettingsTest, AnEmptyFileGivesTheDefaults) {
     env.common.settings.renumberingLevel = 3;
     const LoadedSettings& s = load("");
     EXPECT_EQ(s.caseMode, 2);
-    EXPECT_TRUE(s.flattenControls);
-    EXPECT_FALSE(s.allowViewBuffering);
-    EXPECT_EQ(s.defaultAudioType, "Audio: Album");
-    EXPECT_TRUE(s.allowNonMp3Detagging && s.songGotPriority);
     EXPECT_EQ(s.scanScheme, "$A - $S");
-    EXPECT_FALSE(s.addNullSizedFiles);
     EXPECT_EQ(s.renumberingLevel, 1);
-    EXPECT_TRUE(s.viewRenumbering);
+    EXPECT_EQ(s.defaultAudioType, "Audio: Album");
+    EXPECT_TRUE(s.flattenControls && s.allowNonMp3Detagging && s.songGotPriority &&
+                s.viewRenumbering);
+    EXPECT_FALSE(s.allowViewBuffering || s.addNullSizedFiles);
 }
 
 TEST_F(LoadSettingsTest, StoredValuesAreLoaded) {
