@@ -3,26 +3,16 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "platform/directory_walk.h"
-#include "platform/file_error.h"
+#include "support/file_error_number.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
 namespace {
 
 namespace fs = std::filesystem;
+using test::ErrorNumberOf;
 using Names = std::vector<std::string>;
-
-int ErrorNumberOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const FileError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 // A directory with sub-directories, files and the odd things a disk holds: links to a
 // file, to a directory and to nothing, a fifo, and a directory named like a file.

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <regex>
+
 #include "platform/drives.h"
 #include "support/temp_folder.h"
 
@@ -27,7 +29,6 @@ class Drives : public ::testing::Test {
         ASSERT_EQ(::stat("/", &rootInfo), 0);
         std::string root =
             std::to_string(major(rootInfo.st_dev)) + ":" + std::to_string(minor(rootInfo.st_dev));
-        std::string dev = (folder / "dev").string();
         fs::create_directories(folder / "dev");
         fs::create_directories(folder / "by-label");
         fs::create_directories(home);
@@ -35,22 +36,21 @@ class Drives : public ::testing::Test {
         test::WriteAll(folder / "dev" / "sdb1", "");
         fs::create_symlink(folder / "dev" / "sda1", folder / "by-label" / "System");
         fs::create_symlink(folder / "dev" / "sdb1", folder / "by-label" / "USB\\x20STICK");
-        test::WriteAll(mountinfo, "1 0 " + root + " / / rw - ext4 " + dev +
-                                      "/sda1 rw\n"
-                                      "2 1 0:21 / /proc rw - proc proc rw\n"
-                                      "5 1 0:30 / /run/user/1000 rw - tmpfs tmpfs rw\n"
-                                      "6 1 7:1 / /snap/core/1 ro - squashfs /dev/loop1 ro\n"
-                                      "7 1 8:2 / /boot/efi rw - vfat /dev/sda2 rw\n"
-                                      "8 1 8:33 / /mnt/zeta rw - ext4 /dev/sdc1 rw\n"
-                                      "9 1 8:17 / /media/usb\\040stick rw - vfat " +
-                                      dev +
-                                      "/sdb1 rw\n"
-                                      "10 1 8:49 / /mnt/alpha rw - ext4 /dev/sdd1 rw\n"
-                                      "11 1 11:0 / /run/media/ann/CD ro - iso9660 /dev/sr0 ro\n"
-                                      "12 1 8:17 / /media/usb\\040stick rw - vfat " +
-                                      dev +
-                                      "/sdb1 rw\n"
-                                      "13 1 0:31 / /media rw - tmpfs tmpfs rw\n");
+        const std::string table = R"(1 0 ROOT / / rw - ext4 DEV/sda1 rw
+2 1 0:21 / /proc rw - proc proc rw
+5 1 0:30 / /run/user/1000 rw - tmpfs tmpfs rw
+6 1 7:1 / /snap/core/1 ro - squashfs /dev/loop1 ro
+7 1 8:2 / /boot/efi rw - vfat /dev/sda2 rw
+8 1 8:33 / /mnt/zeta rw - ext4 /dev/sdc1 rw
+9 1 8:17 / /media/usb\040stick rw - vfat DEV/sdb1 rw
+10 1 8:49 / /mnt/alpha rw - ext4 /dev/sdd1 rw
+11 1 11:0 / /run/media/ann/CD ro - iso9660 /dev/sr0 ro
+12 1 8:17 / /media/usb\040stick rw - vfat DEV/sdb1 rw
+13 1 0:31 / /media rw - tmpfs tmpfs rw
+)";
+        test::WriteAll(mountinfo,
+                       std::regex_replace(std::regex_replace(table, std::regex("ROOT"), root),
+                                          std::regex("DEV"), (folder / "dev").string()));
     }
     std::vector<Drive> drives() const {
         return MountedDrives(mountinfo, home, folder / "by-label");

@@ -4,56 +4,21 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <ctime>
-#include <functional>
-#include <optional>
 #include <set>
+#include <utility>
 
 #include "platform/file_error.h"
 #include "platform/file_facts.h"
 #include "platform/media_file.h"
+#include "support/file_error_number.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
 namespace {
 
 namespace fs = std::filesystem;
-
-int ErrorNumberOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const FileError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-// Sets the time zone for one test and puts the old one back.
-class TimeZone {
-  public:
-    explicit TimeZone(const char* zone) {
-        if (const char* old = std::getenv("TZ"))
-            old_ = old;
-        ::setenv("TZ", zone, 1);
-        ::tzset();
-    }
-    ~TimeZone() {
-        if (old_)
-            ::setenv("TZ", old_->c_str(), 1);
-        else
-            ::unsetenv("TZ");
-        ::tzset();
-    }
-
-  private:
-    std::optional<std::string> old_;
-};
-
-void SetModificationTime(const fs::path& path, std::time_t when) {
-    timespec times[2] = {{when, 0}, {when, 0}};
-    ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
-}
+using test::ErrorNumberOf;
 
 TEST(FileFacts, ReadOnlyIsTheMissingOwnerWriteBitOfTheTarget) {
     test::TempFolder folder;
@@ -70,19 +35,16 @@ TEST(FileFacts, ReadOnlyIsTheMissingOwnerWriteBitOfTheTarget) {
 }
 
 TEST(FileFacts, DateIsTheLocalModificationDateMonthFirst) {
-    TimeZone zone("ZVX+10");  // ten hours behind UTC
     test::TempFolder folder;
     fs::path file = folder / "a.txt";
     test::WriteAll(file, "x");
+    ::setenv("TZ", "ZVX+10", 1);  // ten hours behind UTC; no other test reads the zone
+    ::tzset();
     // 23:30 on the last day of 2002 here, already the first of January in UTC.
-    std::tm local{};
-    local.tm_year = 102;
-    local.tm_mon = 11;
-    local.tm_mday = 31;
-    local.tm_hour = 23;
-    local.tm_min = 30;
-    local.tm_isdst = -1;
-    SetModificationTime(file, std::mktime(&local));
+    std::tm local{
+        .tm_min = 30, .tm_hour = 23, .tm_mday = 31, .tm_mon = 11, .tm_year = 102, .tm_isdst = -1};
+    const timespec when = {std::mktime(&local), 0}, times[2] = {when, when};
+    ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
     EXPECT_EQ(ReadFileFacts(file).date, "12-31-2002");
 }
 
@@ -123,16 +85,12 @@ TEST(FileFacts, OnlyARegularFileIsReadAndNothingElseIsOpened) {
 }
 
 TEST(FileError, EveryErrnoMapsByMeaningToANumberWhoseDialogOffersIgnore) {
-    EXPECT_EQ(ErrorNumberFromErrno(ENOENT), 53);
-    EXPECT_EQ(ErrorNumberFromErrno(ENOTDIR), 76);
-    EXPECT_EQ(ErrorNumberFromErrno(EACCES), 70);
-    EXPECT_EQ(ErrorNumberFromErrno(EIO), 57);
-    EXPECT_EQ(ErrorNumberFromErrno(EDQUOT), 61);
-    EXPECT_EQ(ErrorNumberFromErrno(EMFILE), 55);
-    EXPECT_EQ(ErrorNumberFromErrno(ESTALE), 68);
-    EXPECT_EQ(ErrorNumberFromErrno(ENOMEDIUM), 71);
-    EXPECT_EQ(ErrorNumberFromErrno(ENAMETOOLONG), 75);
-    EXPECT_EQ(ErrorNumberFromErrno(ENOEXEC), 57);  // no nearer meaning
+    // ENOEXEC has no nearer meaning than 57.
+    const std::pair<int, int> meanings[] = {
+        {ENOENT, 53}, {ENOTDIR, 76}, {EACCES, 70},    {EIO, 57},          {EDQUOT, 61},
+        {EMFILE, 55}, {ESTALE, 68},  {ENOMEDIUM, 71}, {ENAMETOOLONG, 75}, {ENOEXEC, 57}};
+    for (auto [err, number] : meanings)
+        EXPECT_EQ(ErrorNumberFromErrno(err), number) << "errno " << err;
     const std::set<int> offersIgnore{53, 55, 57, 61, 68, 70, 71, 75, 76};
     for (int err = 0; err < 200; ++err)
         EXPECT_TRUE(offersIgnore.count(ErrorNumberFromErrno(err))) << "errno " << err;

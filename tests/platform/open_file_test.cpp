@@ -4,22 +4,13 @@
 
 #include <cerrno>
 
-#include "platform/file_error.h"
 #include "platform/file_faults.h"
 #include "platform/file_io.h"
+#include "support/file_error_number.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
 namespace {
-
-int ErrorNumberOfAppend(OpenFile& file, std::string_view bytes, OpenFile::Keep keep) {
-    try {
-        file.append(bytes, keep);
-    } catch (const FileError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 TEST(OpenFile, AWriteThatFailsPartWayLeavesNoPieceOfALine) {
     test::TempFolder folder;
@@ -29,7 +20,8 @@ TEST(OpenFile, AWriteThatFailsPartWayLeavesNoPieceOfALine) {
     {
         // Half of the bytes reach the disk: "one" whole and "tw" of the next line.
         InjectedFileFault full(FileFault::Write, 1, ENOSPC);
-        EXPECT_EQ(ErrorNumberOfAppend(file, "one\r\ntwo\r\nthree\r\n", OpenFile::Keep::WholeLines),
+        EXPECT_EQ(test::ErrorNumberOf(
+                      [&] { file.append("one\r\ntwo\r\nthree\r\n", OpenFile::Keep::WholeLines); }),
                   61);
         EXPECT_TRUE(full.fired());
     }
@@ -37,7 +29,9 @@ TEST(OpenFile, AWriteThatFailsPartWayLeavesNoPieceOfALine) {
     EXPECT_EQ(test::ReadAll(path), "old\r\none\r\n");
     {
         InjectedFileFault failing(FileFault::Write, 1, EIO);
-        EXPECT_EQ(ErrorNumberOfAppend(file, "four\r\nfive\r\n", OpenFile::Keep::Nothing), 57);
+        EXPECT_EQ(
+            test::ErrorNumberOf([&] { file.append("four\r\nfive\r\n", OpenFile::Keep::Nothing); }),
+            57);
     }
     EXPECT_EQ(test::ReadAll(path), "old\r\none\r\n");
     file.append("two\r\n");
@@ -52,12 +46,7 @@ TEST(InjectedFileFault, FailsOnlyTheCountedOpeningForWritingAndNeverAReading) {
     TouchFile(path);
     EXPECT_EQ(ReadFileBytes(path, 0, 3), "abc");
     EXPECT_FALSE(refused.fired());
-    try {
-        WriteFileBytes(path, 0, "x");
-        ADD_FAILURE() << "the second opening for writing passed";
-    } catch (const FileError& error) {
-        EXPECT_EQ(error.number(), 70);
-    }
+    EXPECT_EQ(test::ErrorNumberOf([&] { WriteFileBytes(path, 0, "x"); }), 70);
     EXPECT_TRUE(refused.fired());
     WriteFileBytes(path, 0, "x");
     EXPECT_EQ(test::ReadAll(path), "xbc");

@@ -12,13 +12,6 @@ class Registration : public ::testing::Test {
         return {"/opt/zvx/zvx", (home / "config").string(), (home / "data").string(),
                 (home / "home").string(), ""};
     }
-    // A tool on the path that notes its name and argument.
-    void fakeTool(const std::string& name) {
-        std::filesystem::create_directories(home / "bin");
-        test::WriteAll(home / "bin" / name, "#!/bin/sh\necho \"" + name + " $1\" >> '" +
-                                                (home / "log").string() + "'\n");
-        std::filesystem::permissions(home / "bin" / name, std::filesystem::perms::owner_all);
-    }
     test::TestEnvironment env;
     test::TempFolder home;
 };
@@ -69,8 +62,13 @@ TEST_F(Registration, FileTypesAreRegisteredForTheProgram) {
 }
 
 TEST_F(Registration, TheDatabasesAreRefreshedByToolsFoundOnThePath) {
-    fakeTool("update-mime-database");
-    fakeTool("update-desktop-database");
+    // Tools on the path that note their name and argument.
+    std::filesystem::create_directories(home / "bin");
+    for (const std::string tool : {"update-mime-database", "update-desktop-database"}) {
+        test::WriteAll(home / "bin" / tool, "#!/bin/sh\necho \"" + tool + " $1\" >> '" +
+                                                (home / "log").string() + "'\n");
+        std::filesystem::permissions(home / "bin" / tool, std::filesystem::perms::owner_all);
+    }
     RegistrationEnvironment target = places();
     target.searchPath = "relative:" + (home / "missing").string() + ":" + (home / "bin").string();
     RegisterFileTypes(env.common, target);

@@ -12,16 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string DeviceText(dev_t device) {
-    return std::to_string(major(device)) + ":" + std::to_string(minor(device));
-}
-
-dev_t DeviceOfPath(const fs::path& path) {
-    struct stat info;
-    EXPECT_EQ(::stat(path.c_str(), &info), 0);
-    return info.st_dev;
-}
-
 // A mount table in which the test's own folder lies on a device file "usb stick", and a
 // label folder naming that device and one more.
 class VolumeLabel : public ::testing::Test {
@@ -33,14 +23,15 @@ class VolumeLabel : public ::testing::Test {
         test::WriteAll(folder / "dev" / "other", "");
         fs::create_symlink(folder / "dev" / "other", byLabel / "Other");
         fs::create_symlink("../dev/usb stick", byLabel / "My\\x20Music\\x2fRock");
-        writeTable(DeviceText(DeviceOfPath(folder.path())));
+        struct stat info;
+        ASSERT_EQ(::stat(folder.path().c_str(), &info), 0);
+        writeTable(std::to_string(major(info.st_dev)) + ":" + std::to_string(minor(info.st_dev)));
     }
     void writeTable(const std::string& device) {
-        std::string source = (folder / "dev").string() + "/usb\\040stick";
-        test::WriteAll(mountinfo, "40 27 " + device + " / /media/x rw shared:1 master:2 - ext4 " +
-                                      source +
-                                      " rw\n"
-                                      "22 27 0:21 / /proc rw,relatime - proc proc rw\n");
+        test::WriteAll(mountinfo,
+                       "40 27 " + device + " / /media/x rw shared:1 master:2 - ext4 " +
+                           (folder / "dev").string() +
+                           "/usb\\040stick rw\n22 27 0:21 / /proc rw,relatime - proc proc rw\n");
     }
 
     test::TempFolder folder;
