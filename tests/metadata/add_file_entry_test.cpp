@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
+#include "id3_block.h"
 #include "metadata/file_error_dialog.h"
 #include "platform/catalogue_path.h"
-#include "store/entry_line.h"
-#include "store/folder_listing.h"
 #include "support/catalogue_bytes.h"
+#include "support/entry_lines.h"
 #include "support/temp_folder.h"
 
 namespace zvx {
@@ -27,15 +27,12 @@ struct AddFixture {
         test::WriteAll(cfn, test::CatalogueBytes({{"Music\\", "", 10, kId}}, {}));
         std::filesystem::create_directory(medium);
     }
-    std::vector<std::string> lines() const {
-        std::vector<std::string> out;
-        ListFolderEntries(cfn, kId, [&](std::string_view line) { out.emplace_back(line); });
-        return out;
-    }
-    EntryFields only() {
-        stored = lines();
-        EXPECT_EQ(stored.size(), 1u);
-        return stored.empty() ? EntryFields{} : SplitEntryLine(stored[0]);
+    std::vector<std::string> lines() const { return test::FolderLines(cfn, kId); }
+    // The one line of the folder.
+    std::string only() const {
+        const std::vector<std::string> all = lines();
+        EXPECT_EQ(all.size(), 1u);
+        return all.empty() ? "" : all[0];
     }
     std::filesystem::path file(const std::string& name, const std::string& bytes) {
         std::filesystem::path path = medium / name;
@@ -49,30 +46,16 @@ struct AddFixture {
     test::TestEnvironment env;
     std::filesystem::path cfn = env.folder / "doc.zvd";
     std::filesystem::path medium = env.folder / "medium";
-    std::vector<std::string> stored;
 };
 
-// 128 bytes of an ID3v1 block.
-std::string Tag(const std::string& title, const std::string& artist, int track, int genre) {
-    std::string block = "TAG";
-    auto field = [&](std::string text, size_t size) {
-        text.resize(size, ' ');
-        block += text;
-    };
-    field(title, 30);
-    field(artist, 30);
-    field("Album", 30);
-    field("1999", 4);
-    field("tag comment", 29);
-    block += static_cast<char>(track);
-    block += static_cast<char>(genre);
-    return block;
-}
-
-std::string Mp3Bytes(const std::string& tag) {
+// An MP3 file of 16000 bytes from its header on, and an ID3v1 block padded with blanks.
+std::string Mp3Bytes(const std::string& title, const std::string& artist, unsigned char track,
+                     unsigned char genre) {
     std::string bytes("\xFF\xFB\x90\x64", 4);
     bytes.resize(16000, '\0');
-    return bytes + tag;
+    const test::Id3Block tag{"TAG",         title, artist, "Album", "1999",
+                             "tag comment", track, genre,  ' '};
+    return bytes + tag.bytes();
 }
 
 TEST(AddFileEntry, RecordsTheFileFactsInCatalogueForm) {
@@ -82,21 +65,16 @@ TEST(AddFileEntry, RecordsTheFileFactsInCatalogueForm) {
                                  std::filesystem::perm_options::remove);
     f.env.common.settings.caseMode = 2;
     f.add(path);
-    EntryFields e = f.only();
-    EXPECT_EQ(e[1], "Notes.txt");  // the extension as the content lookup read it
-    EXPECT_EQ(e[2], "5");
-    EXPECT_EQ(e[3], CataloguePathFromNative(f.medium.string()));
-    EXPECT_EQ(e[5], "1");
-    EXPECT_TRUE(std::regex_match(std::string(e[7]), std::regex(R"(\d\d-\d\d-\d{4})")));
-    EXPECT_EQ(e[8], "Document: Text");
-    EXPECT_EQ(e[12], "<unknown>");
-    EXPECT_EQ(e[15], "00");
-    EXPECT_EQ(e[20], "0");
-    EXPECT_EQ(e[21], "0");
+    const std::string line = f.only();
+    // The extension as the content lookup read it.
+    EXPECT_EQ(test::Fields(line, {1, 2, 3, 5, 8, 12, 15, 20, 21}),
+              "Notes.txt|5|" + CataloguePathFromNative(f.medium.string()) +
+                  "|1|Document: Text|<unknown>|00|0|0|");
+    EXPECT_TRUE(std::regex_match(test::Fields(line, {7}), std::regex(R"(\d\d-\d\d-\d{4}\|)")));
     EXPECT_EQ(f.env.changedCalls, 1);
     // Not "<Unknown Content Type>": the lookup's own miss reads "unknown" in the entry.
     f.add(f.file("x.unknownext", "x"));
-    EXPECT_EQ(SplitEntryLine(f.lines().at(1))[8], "unknown");
+    EXPECT_EQ(test::Fields(f.lines().at(1), {8}), "unknown|");
 }
 
 TEST(AddFileEntry, ZeroLengthFilesAreSkippedSilentlyUnlessWanted) {
@@ -108,41 +86,25 @@ TEST(AddFileEntry, ZeroLengthFilesAreSkippedSilentlyUnlessWanted) {
 
     f.env.common.settings.addNullSizedFiles = true;
     f.add(empty);
-    EntryFields e = f.only();
-    EXPECT_EQ(e[2], "0");
-    EXPECT_EQ(e[20], "0");  // the stream reader's failure path
-    EXPECT_EQ(e[21], "0");
-    EXPECT_EQ(e[19], "");
+    // The stream reader's failure path.
+    EXPECT_EQ(test::Fields(f.only(), {2, 19, 20, 21}), "0||0|0|");
 }
 
 TEST(AddFileEntry, Mp3WithoutDetaggingKeepsOnlyTheStream) {
     AddFixture f;
     f.env.common.settings.defaultComment = "from box 3";
-    f.add(f.file("Band - Song.mp3", Mp3Bytes(Tag("Title", "Artist", 4, 17))), false);
-    EntryFields e = f.only();
-    EXPECT_EQ(e[8], "Audio: Album");
-    EXPECT_EQ(e[9], "");
-    EXPECT_EQ(e[10], "");
-    EXPECT_EQ(e[12], "<unknown>");
-    EXPECT_EQ(e[17], "From Box 3");
-    EXPECT_EQ(e[20], "128");
-    EXPECT_EQ(e[21], "44100");
-    EXPECT_EQ(e[22], "Dual Channel");
-    EXPECT_EQ(e[19], "0:01");
+    f.add(f.file("Band - Song.mp3", Mp3Bytes("Title", "Artist", 4, 17)), false);
+    EXPECT_EQ(test::Fields(f.only(), {8, 9, 10, 12, 17, 19, 20, 21, 22}),
+              "Audio: Album|||<unknown>|From Box 3|0:01|128|44100|Dual Channel|");
 }
 
 TEST(AddFileEntry, TheTagWinsAndTheScanFillsItsGaps) {
     AddFixture f;
     f.env.common.settings.caseMode = 0;
-    f.add(f.file("Band - Song.mp3", Mp3Bytes(Tag("Tagged Title", "", 31, 17))));
-    EntryFields e = f.only();
-    EXPECT_EQ(e[9], "Tagged Title");
-    EXPECT_EQ(e[10], "Band");
-    EXPECT_EQ(e[11], "Album");
-    EXPECT_EQ(e[12], "Rock");
-    EXPECT_EQ(e[16], "1999");
-    EXPECT_EQ(e[17], "tag comment");
-    EXPECT_EQ(e[15], "00");  // track 31 is no track, and the name has none
+    f.add(f.file("Band - Song.mp3", Mp3Bytes("Tagged Title", "", 31, 17)));
+    // Track 31 is no track, and the name has none.
+    EXPECT_EQ(test::Fields(f.only(), {9, 10, 11, 12, 15, 16, 17}),
+              "Tagged Title|Band|Album|Rock|00|1999|tag comment|");
 }
 
 TEST(AddFileEntry, SoundFilesAreScannedOnlyWhenDetagged) {
@@ -154,48 +116,35 @@ TEST(AddFileEntry, SoundFilesAreScannedOnlyWhenDetagged) {
     f.add(f.file("Other - Tune.wav", "RIFF"), false);
     std::vector<std::string> lines = f.lines();
     ASSERT_EQ(lines.size(), 2u);
-    EntryFields scanned = SplitEntryLine(lines[0]);
-    EXPECT_EQ(scanned[9], "Song");
-    EXPECT_EQ(scanned[10], "Band");
-    EXPECT_EQ(scanned[11], "medium");  // the folder's name
-    EntryFields plain = SplitEntryLine(lines[1]);
-    EXPECT_EQ(plain[8], "Audio: Single");
-    EXPECT_EQ(plain[9], "");
-    EXPECT_EQ(plain[10], "");
+    // The album is the folder's name.
+    EXPECT_EQ(test::Fields(lines[0], {9, 10, 11}), "Song|Band|medium|");
+    EXPECT_EQ(test::Fields(lines[1], {8, 9, 10}), "Audio: Single|||");
 }
 
-TEST(AddFileEntry, AVanishedFileAsksAndIgnoreSkipsIt) {
+TEST(AddFileEntry, AFileThatIsGoneOrNotRegularAsksAndIgnoreSkipsIt) {
     AddFixture f;
-    f.env.screen.answerMessage(MsgAnswer::Ignore);
-    f.add(f.medium / "gone.mp3");
-    ASSERT_EQ(f.env.screen.shown.size(), 1u);
-    const test::Shown& box = f.env.screen.shown[0];
-    EXPECT_EQ(box.caption, "ZVX - Error!!!");
-    EXPECT_EQ(box.text,
+    std::filesystem::create_directory(f.medium / "folder");
+    ASSERT_EQ(::mkfifo((f.medium / "pipe.mp3").c_str(), 0600), 0);
+    for (const char* name : {"gone.mp3", "folder", "pipe.mp3"}) {
+        f.env.screen.answerMessage(MsgAnswer::Ignore);
+        f.add(f.medium / name);
+    }
+    EXPECT_TRUE(f.lines().empty());
+    EXPECT_FALSE(f.env.common.AbortAdding);
+    const std::vector<test::Shown>& shown = f.env.screen.shown;
+    ASSERT_EQ(shown.size(), 3u);
+    for (const test::Shown& box : shown) {
+        EXPECT_EQ(box.caption, "ZVX - Error!!!");
+        EXPECT_EQ(box.buttons, MsgButtons::AbortRetryIgnore);
+    }
+    EXPECT_EQ(shown[0].text,
               "The following error occured during the File-Operation:\r"
               "<The selected file was not found!>\r"
               "Maybe you changed the device, renamed or deleted the file...\r"
               "How do you want to proceed?");
-    EXPECT_EQ(box.buttons, MsgButtons::AbortRetryIgnore);
-    EXPECT_FALSE(f.env.common.AbortAdding);
-    EXPECT_TRUE(f.lines().empty());
-}
-
-TEST(AddFileEntry, ADirectoryOrAFifoIsNoEntryButAnErrorToPassOver) {
-    AddFixture f;
-    std::filesystem::create_directory(f.medium / "folder");
-    ASSERT_EQ(::mkfifo((f.medium / "pipe.mp3").c_str(), 0600), 0);
-    f.env.screen.answerMessage(MsgAnswer::Ignore);
-    f.env.screen.answerMessage(MsgAnswer::Ignore);
-    f.add(f.medium / "folder");
-    f.add(f.medium / "pipe.mp3");
-    EXPECT_TRUE(f.lines().empty());
-    ASSERT_EQ(f.env.screen.shown.size(), 2u);
-    for (const test::Shown& box : f.env.screen.shown) {
-        EXPECT_NE(box.text.find("<Error while accessing a directory!>"), std::string::npos);
-        EXPECT_EQ(box.buttons, MsgButtons::AbortRetryIgnore);
-    }
-    EXPECT_FALSE(f.env.common.AbortAdding);
+    // A directory or a FIFO is never opened.
+    EXPECT_NE(shown[1].text.find("<Error while accessing a directory!>"), std::string::npos);
+    EXPECT_NE(shown[2].text.find("<Error while accessing a directory!>"), std::string::npos);
 }
 
 TEST(AddFileEntry, AbortSkipsTheFileAndTellsTheRun) {
@@ -235,10 +184,9 @@ TEST(AddFileEntry, RetryResumesAtTheFailedStep) {
     test::WriteAll(cfn, test::CatalogueBytes({{"A\\", "", 10, kId}}, {}));
     AddFileEntry(common, cfn, file, kId, true, true);
     EXPECT_EQ(screen.shown.size(), 1u);
-    std::vector<std::string> lines;
-    ListFolderEntries(cfn, kId, [&](std::string_view line) { lines.emplace_back(line); });
+    const std::vector<std::string> lines = test::FolderLines(cfn, kId);
     ASSERT_EQ(lines.size(), 1u);
-    EXPECT_EQ(SplitEntryLine(lines[0])[2], "10");
+    EXPECT_EQ(test::Fields(lines[0], {2}), "10|");
 }
 
 TEST(FileErrorDialog, AnUnexpectedErrorOffersRetryAndCancelAndCancelAborts) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <string>
 
 #include "support/temp_folder.h"
@@ -103,11 +102,10 @@ TEST(ScanFileName, OddInputEndsQuickly) {
     for (int i = 0; i < 200000; ++i)
         dashes += "-a";
     std::string digits(1000000, '7');
-    auto start = std::chrono::steady_clock::now();
+    // A scan that grew with the square of these would run into the test's time limit.
     EXPECT_EQ(Scan(dashes), "a|a|a|a|");
     EXPECT_EQ(Scan("\\" + digits), "|" + digits.substr(4) + "|||7777");
     EXPECT_EQ(Scan(dashes, {std::string(100000, '-') + "$S"}), "a|a|a|a|");
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 TEST(ScanSchemeToken, PiecesCountFromOne) {
