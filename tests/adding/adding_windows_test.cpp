@@ -19,7 +19,6 @@
 #include <QUrl>
 #include <filesystem>
 #include <functional>
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -41,19 +40,9 @@ QString Native(const std::filesystem::path& path) {
     return ToQString(path.string());
 }
 
-// Saves a picture of a form at its own size, beside the other window pictures.
-void Picture(QWidget* form, const char* name) {
-    form->grab().save(QString(ZVX_SCREENSHOT_DIR) + "/" + name + ".png");
-}
-
 // Runs `act` on the modal dialog once its loop runs.
 void WhenModal(QObject* context, std::function<void(QWidget*)> act) {
     QTimer::singleShot(50, context, [act] { act(QApplication::activeModalWidget()); });
-}
-
-void ExpectControls(QWidget& form, std::initializer_list<const char*> names) {
-    for (const char* name : names)
-        EXPECT_NE(form.findChild<QWidget*>(name), nullptr) << name;
 }
 
 std::string Setting(Common& common, const char* key) {
@@ -119,11 +108,12 @@ void SendKey(QWidget* target, int key, Qt::KeyboardModifiers modifiers) {
     QApplication::sendEvent(target, &press);
 }
 
-TEST_F(AddingWindowTest, RowsComeFromTheFileDialogListmoreAndDropsAndGoWithDelete) {
+TEST_F(AddingWindowTest, RowsComeFromTheFileDialogListmoreAndDropsGoWithDeleteAndAreInserted) {
     frmDocument* document = openDocument();
     insertlist form(env.common, *document);
-    ExpectControls(
-        form, {"ListView1", "Label1", "Check1", "FlatBttn1", "Command2", "Command3", "Command4"});
+    for (const char* name :
+         {"ListView1", "Label1", "Check1", "FlatBttn1", "Command2", "Command3", "Command4"})
+        EXPECT_NE(form.findChild<QWidget*>(name), nullptr) << name;
     auto* list = form.findChild<QTreeWidget*>("ListView1");
 
     const auto a = inputFile("a.mp3");
@@ -167,15 +157,11 @@ TEST_F(AddingWindowTest, RowsComeFromTheFileDialogListmoreAndDropsAndGoWithDelet
     SendKey(list, Qt::Key_Delete, Qt::NoModifier);
     EXPECT_EQ(CountText(form), "Currently are 0 files selected for inserting.");
     EXPECT_EQ(env.screen.unanswered(), 0u);
-}
 
-TEST_F(AddingWindowTest, InsertAllAddsTheRowsToTheSelectedFolderAndCloses) {
-    frmDocument* document = openDocument();
-    insertlist form(env.common, *document);
+    // Insert all adds the rows to the selected folder and closes.
     form.listmore(inputFile("a.txt").string());
     form.listmore(inputFile("b.txt").string());
-    Picture(&form, "insertlist");
-
+    screenshot(&form, "insertlist");
     form.findChild<QPushButton*>("Command3")->click();
     EXPECT_EQ(document->entries()->rowCount(), 3);  // Music's, after the refresh
     EXPECT_EQ(form.result(), QDialog::Accepted);
@@ -241,9 +227,6 @@ class WizardTest : public AddingWindowTest {
     static QLineEdit* Line(cdwizard& wizard, const char* name) {
         return Control<QLineEdit>(wizard, name);
     }
-    static bool Checked(cdwizard& wizard, const char* name) {
-        return Control<QAbstractButton>(wizard, name)->isChecked();
-    }
     static void Check(cdwizard& wizard, const char* name, bool on) {
         Control<QAbstractButton>(wizard, name)->setChecked(on);
     }
@@ -268,11 +251,6 @@ QStringList DirRows(cdwizard& wizard) {
 TEST_F(WizardTest, ControlsShowTheDevicesAndEnableEachOther) {
     frmDocument* document = openDocument();
     cdwizard wizard(env.common, *document, drives());
-    ExpectControls(wizard,
-                   {"Drive1",      "Dir1",      "Label2",   "Text1",   "Text2",   "Text3",
-                    "Check1",      "Check2",    "Check3",   "Check4",  "Check5",  "Check6",
-                    "Check7",      "Option1",   "Option2",  "Option3", "Option4", "ImageCombo1",
-                    "ImageCombo2", "FlatBttn1", "command1", "command2"});
     EXPECT_EQ(Control<QComboBox>(wizard, "Drive1")->itemText(1), Native(labelled) + " [Music]");
     // The icon rows count from 1 as the combo's items do.
     EXPECT_EQ(Control<QComboBox>(wizard, "ImageCombo1")->currentText(), "CD(-ROM)/DVD");
@@ -292,12 +270,11 @@ TEST_F(WizardTest, ControlsShowTheDevicesAndEnableEachOther) {
     EXPECT_EQ(Line(wizard, "Text2")->text(),
               "*.mp3;*.wav;*.mpeg3 ;*.au;*.sun;*.voc;*.smp;*.mod;*.s3m;*.vox");
 
-    wizard.resize(520, 520);
     auto* tabs = Control<QTabWidget>(wizard, "TabStrip1");
     tabs->setCurrentIndex(0);
-    Picture(&wizard, "cdwizard_source");
+    screenshot(&wizard, "cdwizard_source");
     tabs->setCurrentIndex(1);
-    Picture(&wizard, "cdwizard_options");
+    screenshot(&wizard, "cdwizard_options");
 }
 
 // Check5 makes Text1 follow the device and directory; an unreadable device keeps the old one.
@@ -355,9 +332,9 @@ TEST_F(WizardTest, TheFormShowsZvxIniAndSavesWhatItShowsOnClosing) {
     EXPECT_EQ(wizard.dirPath(), labelled.string());
     EXPECT_EQ(Control<QListWidget>(wizard, "Dir1")->currentRow(), 1);
     for (const char* on : {"Check1", "Option2", "Check7", "Option4"})
-        EXPECT_TRUE(Checked(wizard, on)) << on;
+        EXPECT_TRUE(Control<QAbstractButton>(wizard, on)->isChecked()) << on;
     for (const char* off : {"Option1", "Check6", "Check5", "Check3", "Check2", "Option3", "Check4"})
-        EXPECT_FALSE(Checked(wizard, off)) << off;
+        EXPECT_FALSE(Control<QAbstractButton>(wizard, off)->isChecked()) << off;
     EXPECT_EQ(Line(wizard, "Text1")->text(), "Saved");
     EXPECT_EQ(Line(wizard, "Text2")->text(), "*.txt");
     EXPECT_EQ(Line(wizard, "Text3")->text(), "From the shelf");

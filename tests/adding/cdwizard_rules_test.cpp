@@ -42,8 +42,6 @@ TEST(CdwizardSettings, OnlyTheSaveChoiceIsWrittenWhenSavingIsOff) {
     test::TestEnvironment env;
     CdwizardSettings s = LoadCdwizardSettings(env.common);
     EXPECT_EQ(s.parentalName, "New Folder");
-    EXPECT_EQ(s.topIconRow, 5);
-    EXPECT_TRUE(s.addAsSubData);
     s.saveMySettings = false;
     s.parentalName = "Changed";
     SaveCdwizardSettings(env.common, s);

@@ -8,8 +8,8 @@
 
 #include "adding/insert_rows.h"
 #include "steady_screen.h"
-#include "store/folder_listing.h"
 #include "support/catalogue_bytes.h"
+#include "support/entry_lines.h"
 #include "support/fault_loop.h"
 #include "support/temp_folder.h"
 
@@ -46,9 +46,7 @@ TEST(InsertRun, AnAbortKeepsWhatWasAddedAndStopsTheRun) {
     env.screen.answerMessage(MsgAnswer::Ok);
     InsertRun(env.common, cfn, "00000003", rows, true);
 
-    size_t count = 0;
-    ListFolderEntries(cfn, "00000003", [&](std::string_view) { ++count; });
-    EXPECT_EQ(count, 2u);
+    EXPECT_EQ(test::FolderLines(cfn, "00000003").size(), 2u);
     ASSERT_EQ(env.screen.shown.size(), 2u);
     EXPECT_EQ(env.screen.shown[1].caption, "Error.");
     EXPECT_EQ(env.screen.shown[1].text, "Skipped Rest Of Adding-Procedure!");
@@ -67,9 +65,7 @@ TEST(InsertRun, AFileTwiceInTheListGoesThroughTheDuplicateCheck) {
     listmore(rows, path.string());
     env.screen.answerDuplicate("keepold");
     InsertRun(env.common, cfn, "00000000", rows, false);
-    size_t count = 0;
-    ListFolderEntries(cfn, "00000000", [&](std::string_view) { ++count; });
-    EXPECT_EQ(count, 1u);
+    EXPECT_EQ(test::FolderLines(cfn, "00000000").size(), 1u);
     EXPECT_EQ(env.screen.duplicates.size(), 1u);
     EXPECT_EQ(env.screen.statuses.back(), "");
 }
@@ -96,12 +92,7 @@ struct OverwriteRun {
         env.screen.duplicates.clear();
         return after;
     }
-    std::vector<std::string> entries() const {
-        std::vector<std::string> lines;
-        ListFolderEntries(cfn, "00000000",
-                          [&](std::string_view line) { lines.emplace_back(line); });
-        return lines;
-    }
+    std::vector<std::string> entries() const { return test::FolderLines(cfn, "00000000"); }
 
     test::SteadyEnvironment env;
     std::filesystem::path cfn = env.folder / "doc.zvd";
