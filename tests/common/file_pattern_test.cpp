@@ -14,9 +14,7 @@ TEST(FilePattern, ListsMatchAnyPatternWithoutRegardToCase) {
     EXPECT_FALSE(MatchesFilePattern("x.ogg", "*.mp3;*.wav"));
     EXPECT_FALSE(MatchesFilePattern("x.mp3.bak", "*.mp3"));
     EXPECT_TRUE(MatchesFilePattern("ÉTÉ.txt", "été.*"));
-}
-
-TEST(FilePattern, QuestionMarkIsOneCharacter) {
+    // "?" is one character.
     EXPECT_TRUE(MatchesFilePattern("track01.mp3", "track??.mp3"));
     EXPECT_FALSE(MatchesFilePattern("track1.mp3", "track??.mp3"));
     EXPECT_TRUE(MatchesFilePattern("é1", "??"));

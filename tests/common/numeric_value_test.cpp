@@ -5,7 +5,7 @@
 namespace zvx {
 namespace {
 
-TEST(NumericValue, TakesTheLeadingNumberAndSkipsBlanks) {
+TEST(NumericValue, TakesTheLeadingNumberAndSkipsBlanksOrIsZero) {
     EXPECT_EQ(NumericValue("3ab"), 3);
     EXPECT_EQ(NumericValue("  42"), 42);
     EXPECT_EQ(NumericValue("1 2"), 12);
@@ -16,9 +16,7 @@ TEST(NumericValue, TakesTheLeadingNumberAndSkipsBlanks) {
     EXPECT_EQ(NumericValue("7e"), 7);
     EXPECT_EQ(NumericValue("&H1F"), 31);
     EXPECT_EQ(NumericValue("&O17"), 15);
-}
-
-TEST(NumericValue, TextWithoutANumberIsZero) {
+    // Text without a number is zero.
     EXPECT_EQ(NumericValue(""), 0);
     EXPECT_EQ(NumericValue("abc"), 0);
     EXPECT_EQ(NumericValue("e5"), 0);

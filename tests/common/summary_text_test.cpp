@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+#include <utility>
+
 namespace zvx {
 namespace {
 
@@ -16,28 +19,19 @@ TEST(SizeText, BytesThenUnitsWithTwoDecimalsCut) {
 }
 
 TEST(Summarize, CountsEntriesAndTheSizeOfTheSelectedOnes) {
-    SelectionTotals one;
-    one.add("1000", false);
-    EXPECT_EQ(summarize(one), "1 entry (1000 B)");
-
-    SelectionTotals none;
-    EXPECT_EQ(summarize(none), "0 entries");
-
-    SelectionTotals noSizes;
-    noSizes.add("", false);
-    noSizes.add("abc", false);
-    EXPECT_EQ(summarize(noSizes), "2 entries");
-
-    SelectionTotals totals;
-    totals.add("2048", true);
-    totals.add("100000", false);
-    totals.add("512 bytes", true);
-    EXPECT_EQ(summarize(totals), "2 of 3 entries selected (2.5 KB)");
-
-    SelectionTotals selectedEmpty;
-    selectedEmpty.add("0", true);
-    selectedEmpty.add("1", false);
-    EXPECT_EQ(summarize(selectedEmpty), "1 of 2 entries selected");
+    // Rows of a size text and whether the row is selected.
+    auto summary = [](std::initializer_list<std::pair<const char*, bool>> rows) {
+        SelectionTotals totals;
+        for (auto [size, selected] : rows)
+            totals.add(size, selected);
+        return summarize(totals);
+    };
+    EXPECT_EQ(summary({{"1000", false}}), "1 entry (1000 B)");
+    EXPECT_EQ(summary({}), "0 entries");
+    EXPECT_EQ(summary({{"", false}, {"abc", false}}), "2 entries");
+    EXPECT_EQ(summary({{"2048", true}, {"100000", false}, {"512 bytes", true}}),
+              "2 of 3 entries selected (2.5 KB)");
+    EXPECT_EQ(summary({{"0", true}, {"1", false}}), "1 of 2 entries selected");
 }
 
 }  // namespace

@@ -30,9 +30,7 @@ TEST(TextCase, CharactersKeepUtf8SequencesWhole) {
 }
 
 TEST(FieldText, LineBreaksAndSeparatorsBecomeBlanks) {
-    EXPECT_EQ(CleanFieldText("a\x01"
-                             "b\rc\nd"),
-              "a b c d");
+    EXPECT_EQ(CleanFieldText("a\001b\rc\nd"), "a b c d");
     EXPECT_EQ(Trim("  a b  "), "a b");
     EXPECT_EQ(Trim("\ta "), "\ta");  // only blanks are trimmed
     EXPECT_EQ(Right("abc", 5), "abc");
