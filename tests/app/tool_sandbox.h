@@ -3,6 +3,8 @@
 // home, data, configuration and temporary folders all inside one temporary folder, so
 // that a run never sees the real home folder.
 
+#include <sys/types.h>
+
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -24,6 +26,9 @@ class ToolSandbox {
 
     // Runs zvxcat with the arguments in the working folder, stdin from /dev/null.
     ToolResult run(const std::vector<std::string>& args) const;
+    // Starts zvxcat in the working folder with the descriptors as its stdin, stdout and
+    // stderr; the process ID, or -1.
+    pid_t start(std::vector<std::string> args, int in, int out, int err) const;
 
     // A file in the working folder.
     std::filesystem::path operator/(const std::string& name) const { return work_ / name; }
@@ -42,5 +47,8 @@ class ToolSandbox {
     TempFolder root_;
     std::filesystem::path work_;
 };
+
+// The exit status of a started process, -1 when it did not exit normally.
+int WaitForExit(pid_t pid);
 
 }  // namespace zvx::test

@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -55,32 +56,25 @@ class ZvxProcess : public ::testing::Test {
         return pid;
     }
 
-    // The exit status of a process that must end by itself within the time.
-    int waitForExit(pid_t pid) {
+    // Whether the condition comes true within the time a start may take.
+    static bool eventually(const std::function<bool()>& condition) {
         for (auto waited = 0ms; waited < 20s; waited += 50ms) {
-            int status = 0;
-            if (waitpid(pid, &status, WNOHANG) == pid) {
-                std::erase(running_, pid);
-                return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-            }
-            std::this_thread::sleep_for(50ms);
-        }
-        return -2;
-    }
-
-    static bool appears(const fs::path& path) {
-        for (auto waited = 0ms; waited < 20s; waited += 50ms) {
-            if (fs::exists(path))
+            if (condition())
                 return true;
             std::this_thread::sleep_for(50ms);
         }
         return false;
     }
-
-    fs::path catalogue(const std::string& name) {
-        fs::path file = root_ / name;
-        test::WriteAll(file, test::CatalogueBytes({}, {}));
-        return file;
+    // The exit status of a process that must end by itself within the time.
+    int waitForExit(pid_t pid) {
+        int status = 0;
+        if (!eventually([&] { return waitpid(pid, &status, WNOHANG) == pid; }))
+            return -2;
+        std::erase(running_, pid);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    static bool appears(const fs::path& path) {
+        return eventually([&] { return fs::exists(path); });
     }
 
     test::TempFolder root_;
@@ -89,12 +83,13 @@ class ZvxProcess : public ::testing::Test {
 
 TEST_F(ZvxProcess, ADocumentOnTheCommandLineOpensAndASecondStartHandsItsPathOver) {
     // Quotes around a path with blanks: the desktop passes it in pieces.
-    const fs::path first = catalogue("my music.zvx");
+    const fs::path first = root_ / "my music.zvx", second = root_ / "films.zvx";
+    for (const fs::path& file : {first, second})
+        test::WriteAll(file, test::CatalogueBytes({}, {}));
     start({"\"" + (root_ / "my").string(), "music.zvx\""});
     ASSERT_TRUE(appears(app() / "Document 1.tmp"));
     EXPECT_EQ(test::ReadAll(app() / "Document 1.tmp"), test::ReadAll(first));
 
-    const fs::path second = catalogue("films.zvx");
     EXPECT_EQ(waitForExit(start({second.string()})), 0);
     EXPECT_TRUE(appears(app() / "Document 2.tmp"));
 

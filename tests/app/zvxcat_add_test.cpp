@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <sstream>
 
 #include "support/catalogue_bytes.h"
 #include "tool_sandbox.h"
@@ -13,9 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::string kEmptyCatalogue("\x01\x00\x00\x00\x08\r\n", 7);
-// An MPEG 1 header of 128 kbit/s, 44100 Hz, dual channel.
-const std::string kMp3Header("\xFF\xFB\x90\x64", 4);
 const std::string kMusic = CatalogueBytes({{"Music\\", "", 10, "00000000"}}, {});
 const std::string kMusicAndRock =
     CatalogueBytes({{"Music\\", "", 10, "00000000"}, {"Music\\Rock\\", "", 10, "00000001"}}, {});
@@ -23,27 +21,12 @@ const std::string kMusicAndRock =
 // The column indexes of ls.
 constexpr size_t kName = 0, kSize = 1, kPath = 2, kTitle = 8, kArtist = 9;
 
-// A file that starts with the MP3 header, `size` bytes long in all.
+// A file that starts with an MPEG 1 header of 128 kbit/s, 44100 Hz, dual channel,
+// `size` bytes long in all.
 void WriteMp3(const fs::path& path, uintmax_t size) {
     fs::create_directories(path.parent_path());
-    WriteAll(path, kMp3Header);
+    WriteAll(path, "\xFF\xFB\x90\x64");
     fs::resize_file(path, size);
-}
-
-std::string CatalogueForm(const fs::path& path) {
-    std::string text = path.string();
-    std::replace(text.begin(), text.end(), '/', '\\');
-    return text;
-}
-
-std::vector<std::string> Split(const std::string& text, char separator) {
-    std::vector<std::string> parts;
-    size_t start = 0;
-    for (size_t end; (end = text.find(separator, start)) != std::string::npos; start = end + 1)
-        parts.push_back(text.substr(start, end - start));
-    if (start < text.size())
-        parts.push_back(text.substr(start));
-    return parts;
 }
 
 // The cells of each line that the command prints.
@@ -52,17 +35,20 @@ std::vector<std::vector<std::string>> Rows(const ToolSandbox& box,
     ToolResult listed = box.run(args);
     EXPECT_EQ(listed.status, 0) << listed.err;
     std::vector<std::vector<std::string>> rows;
-    for (const std::string& line : Split(listed.out, '\n'))
-        rows.push_back(Split(line, '\t'));
+    std::istringstream lines(listed.out);
+    for (std::string line, cell; std::getline(lines, line);) {
+        std::istringstream cells(line);
+        for (rows.emplace_back(); std::getline(cells, cell, '\t');)
+            rows.back().push_back(cell);
+    }
     return rows;
 }
 
-// One column of the lines the command prints, such as the file names of ls.
-std::vector<std::string> Column(const ToolSandbox& box, const std::vector<std::string>& args,
-                                size_t column = 0) {
+// The first cell of each line the command prints, such as the file names of ls.
+std::vector<std::string> Column(const ToolSandbox& box, const std::vector<std::string>& args) {
     std::vector<std::string> cells;
     for (const std::vector<std::string>& row : Rows(box, args))
-        cells.push_back(column < row.size() ? row[column] : "(missing)");
+        cells.push_back(row.at(0));
     return cells;
 }
 
@@ -85,7 +71,9 @@ TEST(ZvxcatAdd, TakesTheFolderWithEitherSlashInAnyCaseAndSpellsPathsAway) {
     auto rows = Rows(box, {"ls", "c.zvx", "Music/Rock"});
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(rows[0][kName], "a.mp3");
-    EXPECT_EQ(rows[0][kPath], CatalogueForm(box / "in"));
+    std::string in = (box / "in").string();
+    std::ranges::replace(in, '/', '\\');
+    EXPECT_EQ(rows[0][kPath], in);
     // The name is scanned only with --detag.
     EXPECT_EQ(rows[0][kTitle], "");
     EXPECT_EQ(rows[1][kTitle], "Song");
@@ -196,7 +184,7 @@ void MakeDisc(const ToolSandbox& box) {
 TEST(ZvxcatAddTree, MirrorsTheTreeUnderAParentalFolderAndAReRunAddsNothing) {
     ToolSandbox box;
     MakeDisc(box);
-    WriteAll(box / "c.zvx", kEmptyCatalogue);
+    WriteAll(box / "c.zvx", CatalogueBytes({}, {}));
     ExpectSuccess(
         box.run({"add-tree", "c.zvx", "disc", "--as-root", "--parent", "Disc", "--real-folders"}));
 
@@ -217,16 +205,6 @@ TEST(ZvxcatAddTree, MirrorsTheTreeUnderAParentalFolderAndAReRunAddsNothing) {
     EXPECT_EQ(ReadAll(box / "c.zvx"), once);
 }
 
-TEST(ZvxcatAddTree, UnderAFolderTheFilesOfThePatternPourIntoIt) {
-    ToolSandbox box;
-    MakeDisc(box);
-    WriteAll(box / "c.zvx", kMusic);
-    ExpectSuccess(box.run({"add-tree", "c.zvx", "disc", "--under", "MUSIC", "--pattern", "*.MP3"}));
-    EXPECT_EQ(Column(box, {"folders", "c.zvx"}), std::vector<std::string>{"Music"});
-    EXPECT_EQ(Column(box, {"ls", "c.zvx", "Music"}),
-              (std::vector<std::string>{"top.mp3", "a1.mp3", "b1.mp3"}));
-}
-
 TEST(ZvxcatAddTree, AnAbortSkipsTheRestOfOneDirectoryOnly) {
     ToolSandbox box;
     WriteMp3(box / "tree" / "a" / "a1.mp3", 1000);
@@ -234,7 +212,7 @@ TEST(ZvxcatAddTree, AnAbortSkipsTheRestOfOneDirectoryOnly) {
     WriteMp3(box / "tree" / "a" / "big.mp3", 600'000'000);
     WriteMp3(box / "tree" / "a" / "z.mp3", 1000);
     WriteMp3(box / "tree" / "b" / "b1.mp3", 1000);
-    WriteAll(box / "c.zvx", kEmptyCatalogue);
+    WriteAll(box / "c.zvx", CatalogueBytes({}, {}));
 
     ToolResult added =
         box.run({"add-tree", "c.zvx", "tree", "--real-folders", "--on-error", "abort"});
@@ -247,7 +225,7 @@ TEST(ZvxcatAddTree, AnAbortSkipsTheRestOfOneDirectoryOnly) {
     EXPECT_EQ(Column(box, {"ls", "c.zvx", "b"}), std::vector<std::string>{"b1.mp3"});
 }
 
-TEST(ZvxcatAddTree, WrongUseChangesNothing) {
+TEST(ZvxcatAddTree, WrongUseChangesNothingAndUnderAFolderThePatternsFilesPourIntoIt) {
     ToolSandbox box;
     MakeDisc(box);
     WriteAll(box / "c.zvx", kMusic);
@@ -264,6 +242,12 @@ TEST(ZvxcatAddTree, WrongUseChangesNothing) {
     EXPECT_EQ(box.run({"add-tree", "c.zvx", "disc/top.mp3", "--real-folders"}).status, 1);
     EXPECT_EQ(box.run({"add-tree", "c.zvx", "disc", "--under", "Jazz"}).status, 1);
     EXPECT_EQ(ReadAll(box / "c.zvx"), kMusic);
+
+    // Under a folder the files of the pattern pour into it.
+    ExpectSuccess(box.run({"add-tree", "c.zvx", "disc", "--under", "MUSIC", "--pattern", "*.MP3"}));
+    EXPECT_EQ(Column(box, {"folders", "c.zvx"}), std::vector<std::string>{"Music"});
+    EXPECT_EQ(Column(box, {"ls", "c.zvx", "Music"}),
+              (std::vector<std::string>{"top.mp3", "a1.mp3", "b1.mp3"}));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <map>
 #include <random>
 
 #include "support/catalogue_bytes.h"
@@ -38,12 +37,17 @@ TEST(ZvxcatNew, WritesTheEmptyCatalogueAndReplacesOnlyWhenForced) {
     EXPECT_EQ(box.run({"new", "no-such-folder/y.zvx"}).status, 1);
 }
 
+// What info prints about a catalogue of the bytes.
+std::string Info(const ToolSandbox& box, const std::string& bytes) {
+    WriteAll(box / "c.zvx", bytes);
+    ToolResult info = box.run({"info", "c.zvx"});
+    EXPECT_EQ(info.status, 0) << info.err;
+    return info.out;
+}
+
 TEST(ZvxcatInfo, DescribesTheEmptyCatalogue) {
     ToolSandbox box;
-    WriteAll(box / "e.zvx", kEmptyCatalogue);
-    ToolResult info = box.run({"info", "e.zvx"});
-    EXPECT_EQ(info.status, 0) << info.err;
-    EXPECT_EQ(info.out,
+    EXPECT_EQ(Info(box, kEmptyCatalogue),
               "format version: 1\n"
               "entry offset: 8\n"
               "TOC end: 8\n"
@@ -59,43 +63,30 @@ TEST(ZvxcatInfo, NamesANewerFormatAndSeesAWrongOffset) {
     ToolSandbox box;
     std::string bytes = CatalogueBytes({{"a\\", "", 10, "00000000"}},
                                        {EntryLineOf("00000000", {"one.mp3"}), "short"}, 7);
-    WriteAll(box / "good.zvx", bytes);
-    ToolResult good = box.run({"info", "good.zvx"});
-    EXPECT_EQ(good.status, 0) << good.err;
-    EXPECT_EQ(InfoValue(good.out, "format version"), "7 (newer than this program reads)");
-    EXPECT_EQ(InfoValue(good.out, "entry offset"), "25");
-    EXPECT_EQ(InfoValue(good.out, "offset matches TOC end"), "yes");
+    const std::string good = Info(box, bytes);
+    EXPECT_EQ(InfoValue(good, "format version"), "7 (newer than this program reads)");
+    EXPECT_EQ(InfoValue(good, "entry offset"), "25");
+    EXPECT_EQ(InfoValue(good, "offset matches TOC end"), "yes");
 
     // The offset still says 8: the entries are counted from there, the TOC's lines too.
     bytes[4] = 8;
-    WriteAll(box / "stale.zvx", bytes);
-    ToolResult stale = box.run({"info", "stale.zvx"});
-    EXPECT_EQ(stale.status, 0) << stale.err;
-    EXPECT_EQ(InfoValue(stale.out, "entry offset"), "8");
-    EXPECT_EQ(InfoValue(stale.out, "TOC end"), "25");
-    EXPECT_EQ(InfoValue(stale.out, "offset matches TOC end"), "no");
+    const std::string stale = Info(box, bytes);
+    EXPECT_EQ(InfoValue(stale, "entry offset"), "8");
+    EXPECT_EQ(InfoValue(stale, "TOC end"), "25");
+    EXPECT_EQ(InfoValue(stale, "offset matches TOC end"), "no");
 }
 
 TEST(ZvxcatInfo, ReadsDamagedFilesWithoutFailing) {
     ToolSandbox box;
-    WriteAll(box / "empty.zvx", "");
-    WriteAll(box / "cut.zvx", std::string("\x01\x00", 2));
+    EXPECT_EQ(InfoValue(Info(box, ""), "format version"), "none (empty file)");
+    const std::string cut = Info(box, std::string("\x01\x00", 2));
+    EXPECT_EQ(InfoValue(cut, "entry offset"), "0");
+    EXPECT_EQ(InfoValue(cut, "offset matches TOC end"), "no");
     std::mt19937 random(7);
     std::string noise(200'000, '\0');
     for (char& c : noise)
         c = static_cast<char>(random());
-    WriteAll(box / "noise.zvx", noise);
-
-    std::map<std::string, std::string> out;
-    for (const char* file : {"empty.zvx", "cut.zvx", "noise.zvx"}) {
-        ToolResult info = box.run({"info", file});
-        EXPECT_EQ(info.status, 0) << file << ": " << info.err;
-        out[file] = info.out;
-    }
-    EXPECT_EQ(InfoValue(out["empty.zvx"], "format version"), "none (empty file)");
-    EXPECT_EQ(InfoValue(out["cut.zvx"], "entry offset"), "0");
-    EXPECT_EQ(InfoValue(out["cut.zvx"], "offset matches TOC end"), "no");
-    EXPECT_EQ(InfoValue(out["noise.zvx"], "file length"), "200000");
+    EXPECT_EQ(InfoValue(Info(box, noise), "file length"), "200000");
 }
 
 }  // namespace

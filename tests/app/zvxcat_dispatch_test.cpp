@@ -27,7 +27,7 @@ TEST(ZvxcatDispatch, HelpSucceedsAndWrongUseExitsWithTwo) {
     EXPECT_FALSE(std::filesystem::exists(box.appFolder()));
 }
 
-TEST(ZvxcatDispatch, RemovesItsWorkFolderAfterSuccessAndFailure) {
+TEST(ZvxcatDispatch, RemovesItsWorkFolderAfterSuccessAndFailureAndFindsItsApplicationFolder) {
     ToolSandbox box;
     EXPECT_EQ(box.run({"settings", "set", "K", "v"}).status, 0);
     ToolResult missing = box.run({"info", "missing.zvx"});
@@ -36,10 +36,7 @@ TEST(ZvxcatDispatch, RemovesItsWorkFolderAfterSuccessAndFailure) {
     EXPECT_NE(missing.err.find("missing.zvx"), std::string::npos) << missing.err;
     EXPECT_TRUE(std::filesystem::is_directory(box.appFolder()));
     EXPECT_TRUE(std::filesystem::is_empty(box.tmpFolder()));
-}
 
-TEST(ZvxcatDispatch, FindsItsApplicationFolder) {
-    ToolSandbox box;
     box.zvxHome.clear();
     EXPECT_EQ(box.run({"settings", "set", "K", "v"}).status, 0);
     EXPECT_EQ(ReadAll(box.dataFolder() / "zvx" / "zvx.ini"), "K=v\r\n");

@@ -6,11 +6,9 @@
 namespace zvx::test {
 namespace {
 
-const std::string kEmptyCatalogue("\x01\x00\x00\x00\x08\r\n", 7);
-
 TEST(ZvxcatFolders, MkdirMakesFoldersThatFoldersLists) {
     ToolSandbox box;
-    WriteAll(box / "c.zvx", kEmptyCatalogue);
+    WriteAll(box / "c.zvx", CatalogueBytes({}, {}));
     EXPECT_EQ(box.run({"folders", "c.zvx"}).out, "");
 
     ToolResult music = box.run({"mkdir", "c.zvx", "Music"});
@@ -35,9 +33,7 @@ TEST(ZvxcatFolders, MkdirRefusesLikeTheWindow) {
     ToolSandbox box;
     const std::string bytes = CatalogueBytes({{"Music\\", "", 10, "00000000"},
                                               {"x y\\", "", 10, "00000001"},
-                                              {"\xDC"
-                                               "ber\\",
-                                               "", 10, "00000002"}},
+                                              {"\334ber\\", "", 10, "00000002"}},
                                              {});
     WriteAll(box / "c.zvx", bytes);
     auto refusal = [&](const std::vector<std::string>& args) {
@@ -53,11 +49,8 @@ TEST(ZvxcatFolders, MkdirRefusesLikeTheWindow) {
               "Error: The Folder \"x y\" does already exist!");
     EXPECT_EQ(refusal({"mkdir", "c.zvx", "x\x01y"}),
               "Error: The Folder \"x y\" does already exist!");
-    EXPECT_EQ(refusal({"mkdir", "c.zvx",
-                       "\xC3\xBC"
-                       "BER"}),
-              "Error: The Folder \"\xC3\xBC"
-              "BER\" does already exist!");
+    EXPECT_EQ(refusal({"mkdir", "c.zvx", "\303\274BER"}),
+              "Error: The Folder \"\303\274BER\" does already exist!");
     EXPECT_EQ(refusal({"mkdir", "c.zvx", "x", "--icon", "2"}), "Error: Please select an Icon!");
     EXPECT_EQ(refusal({"mkdir", "c.zvx", "Art/Modern"}),
               "zvxcat: no folder 'Art' in " + (box / "c.zvx").string());

@@ -1,9 +1,7 @@
 #include <fcntl.h>
 #include <pty.h>
 #include <signal.h>
-#include <spawn.h>
 #include <sys/file.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -18,29 +16,13 @@ namespace {
 // its work folder stands until it is answered or killed.
 class AskingRun {
   public:
-    AskingRun(const ToolSandbox& box, std::vector<std::string> args) {
+    AskingRun(const ToolSandbox& box, const std::vector<std::string>& args) {
         int terminal = -1;
         if (::openpty(&master_, &terminal, nullptr, nullptr, nullptr) != 0)
             return;
-        std::vector<std::string> env = {"ZVX_HOME=" + box.appFolder().string(),
-                                        "TMPDIR=" + box.tmpFolder().string(), "PATH=/usr/bin:/bin"};
-        args.insert(args.begin(), ZVXCAT_PATH);
-        std::vector<char*> argv, envp;
-        for (std::string& text : args)
-            argv.push_back(text.data());
-        for (std::string& text : env)
-            envp.push_back(text.data());
-        argv.push_back(nullptr);
-        envp.push_back(nullptr);
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_adddup2(&actions, terminal, 0);
-        posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-        posix_spawn_file_actions_adddup2(&actions, terminal, 2);
-        posix_spawn_file_actions_addchdir_np(&actions, (box / "").c_str());
-        if (posix_spawn(&pid_, ZVXCAT_PATH, &actions, nullptr, argv.data(), envp.data()) != 0)
-            pid_ = -1;
-        posix_spawn_file_actions_destroy(&actions);
+        const int none = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+        pid_ = box.start(args, terminal, none, terminal);
+        ::close(none);
         ::close(terminal);
     }
     ~AskingRun() {
@@ -66,11 +48,7 @@ class AskingRun {
         ASSERT_EQ(::write(master_, line.data(), line.size()), static_cast<ssize_t>(line.size()));
     }
     // The exit status, -1 when the run did not exit by itself.
-    int wait() {
-        int status = 0;
-        ::waitpid(std::exchange(pid_, -1), &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
+    int wait() { return WaitForExit(std::exchange(pid_, -1)); }
     // kill -9, as a person or a system under pressure may end it.
     void kill() {
         if (pid_ < 0)
