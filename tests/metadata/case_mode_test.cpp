@@ -5,7 +5,7 @@
 namespace zvx {
 namespace {
 
-TEST(CaseMode, EveryWordStartsAfterBlanksBracketsAndDashes) {
+TEST(CaseMode, EveryWordStartsAfterBlanksBracketsAndDashesAndTheOtherModesCaseTheWhole) {
     EXPECT_EQ(ApplyCaseMode("(the BEST of) rock-n-roll", kCaseEveryWord, true),
               "(The Best Of) Rock-N-Roll");
     EXPECT_EQ(ApplyCaseMode("[live]x", kCaseEveryWord, true), "[Live]X");
@@ -13,9 +13,7 @@ TEST(CaseMode, EveryWordStartsAfterBlanksBracketsAndDashes) {
     EXPECT_EQ(ApplyCaseMode("a_b", kCaseEveryWord, false), "A_b");
     EXPECT_EQ(ApplyCaseMode("ÉTÉ été", kCaseEveryWord, true), "Été Été");
     EXPECT_EQ(ApplyCaseMode("o'NEIL", kCaseEveryWord, true), "O'neil");
-}
-
-TEST(CaseMode, OtherModes) {
+    // The other modes.
     EXPECT_EQ(ApplyCaseMode("hELLO World", kCaseFirstLetter, true), "Hello world");
     EXPECT_EQ(ApplyCaseMode("hELLO", kCaseCapitals, true), "HELLO");
     EXPECT_EQ(ApplyCaseMode("hELLO", kCaseLower, true), "hello");

@@ -47,7 +47,7 @@ TEST(ContentTypeVocabulary, IconsAndOrder) {
     EXPECT_EQ(IconOfContentType(""), 18);
 }
 
-TEST(IconFromContentType, ExtensionReplacesTheStoredTypeWithoutEnhancedView) {
+TEST(IconFromContentType, ExtensionReplacesTheStoredTypeUnlessTheViewIsEnhanced) {
     LoadedSettings settings;
     settings.useEnhancedView = false;
     const RowIcon icon = IconFromContentType("x.txt", "Audio: Vinyl", settings);
@@ -57,10 +57,8 @@ TEST(IconFromContentType, ExtensionReplacesTheStoredTypeWithoutEnhancedView) {
     EXPECT_EQ(IconFromContentType("c:\\old.zip\\readme", "Audio: Vinyl", settings).contentType,
               "<Unknown Content Type>");
     EXPECT_EQ(IconFromContentType("c:\\music\\A.B.Mp3", "", settings).icon, 1);
-}
 
-TEST(IconFromContentType, EnhancedViewKeepsTheStoredType) {
-    LoadedSettings settings;
+    // The enhanced view keeps the stored type.
     settings.useEnhancedView = true;
     settings.enhanceNormalView = false;
     const RowIcon unknown = IconFromContentType("x.zip", "unknown", settings);

@@ -39,7 +39,7 @@ TEST(ReadID3Tag, OnlyAFileLongerThanTheBlockIsReadAndTheMarkerInAnyCase) {
     EXPECT_EQ(read.TagTitle, std::string("Song") + std::string(26, '\0'));
 }
 
-TEST(ReadID3Tag, TextsAreTrimmedOfBlanksOnlyAndConvertedFromLatin1) {
+TEST(ReadID3Tag, TextsAreTrimmedOfBlanksOnlyAndConvertedFromLatin1AndNumbersFollowTheirRules) {
     TestEnvironment env;
     Tag tag;
     tag.title = "  Song";
@@ -52,11 +52,8 @@ TEST(ReadID3Tag, TextsAreTrimmedOfBlanksOnlyAndConvertedFromLatin1) {
     EXPECT_EQ(read.TagAlbum, "Caf\xC3\xA9 \xC3\xBF");
     // All 29 comment bytes; byte 126 is the track, never the comment.
     EXPECT_EQ(read.TagComment, std::string(28, 'c') + "C");
-}
 
-TEST(ReadID3Tag, TrackGenreAndYearRules) {
-    TestEnvironment env;
-    Tag tag;
+    // The rules of track, genre and year.
     for (auto [byte, track] : {std::pair{1, 1}, {30, 30}, {31, 0}, {0, 0}}) {
         tag.track = static_cast<unsigned char>(byte);
         EXPECT_EQ(Read(env, tag).TagTrack, track) << byte;

@@ -38,10 +38,8 @@ TEST(AnalyseMP3Stream, DescribesTheHeaderAndThePlayingTime) {
     // No frame sync is looked for, and the layer bits do not count.
     EXPECT_EQ(Analyse(env, std::string("\x00\xFB\x90\x64", 4)), summary);
     EXPECT_EQ(Analyse(env, std::string("\xFF\x01\x90\x64", 4)), summary);
-}
 
-TEST(AnalyseMP3Stream, FrequencyAndModeFromTheFourthByte) {
-    TestEnvironment env;
+    // Frequency and mode come from the fourth byte.
     EXPECT_EQ(Analyse(env, std::string("\xFF\xFB\x90\x00", 4)),
               "MPEG 1 Layer 3 Bitrate: 128 Freq: 44100 Mode: Stereo Length: 5:00");
     EXPECT_EQ(Analyse(env, "\xFF\xFB\x90\x13"),

@@ -39,6 +39,10 @@ TEST(ScanFileName, StandardSchemeSplitsNameAndFolder) {
     EXPECT_EQ(Scan("\\home\\u\\Music\\a.mp3"), "|a|Music||");
     EXPECT_EQ(Scan("c:\\x\\\\a.mp3"), "|a|x||");
     EXPECT_EQ(Scan("c:\\x\\A -- B.mp3"), "A|B|x||");
+    // The settings switch the priority and the folder scan.
+    EXPECT_EQ(Scan("c:\\a.mp3", {"$A - $S", true, false}), "a||||");
+    EXPECT_EQ(Scan("c:\\Pink\\Pink - Album\\03 - Artist - Song_Name.mp3", {"$A - $S", false}),
+              "Artist|Song Name|||3");
 }
 
 TEST(ScanFileName, NumbersBecomeTheTrackWhereverTheyStand) {
@@ -77,12 +81,6 @@ TEST(ScanFileName, SchemeDecidesThePlaces) {
     EXPECT_EQ(Scan("c:\\x\\A - B - C.mp3", {"$A -", false}), "A|B|C|C|");
     // $N is tolerated: a part that is no short number goes to a free field.
     EXPECT_EQ(Scan("c:\\x\\x1 - A - B.mp3", {"$N - $A - $S"}), "x1|A|x|B|");
-}
-
-TEST(ScanFileName, SettingsSwitchPriorityAndFolder) {
-    EXPECT_EQ(Scan("c:\\a.mp3", {"$A - $S", true, false}), "a||||");
-    EXPECT_EQ(Scan("c:\\Pink\\Pink - Album\\03 - Artist - Song_Name.mp3", {"$A - $S", false}),
-              "Artist|Song Name|||3");
 }
 
 TEST(ScanFileName, FolderGivesAlbumAndArtist) {

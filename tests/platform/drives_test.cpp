@@ -61,7 +61,7 @@ class Drives : public ::testing::Test {
     fs::path home = folder / "home";
 };
 
-TEST_F(Drives, RootHomeAndRemovableMountsEachOnceInTheirOrder) {
+TEST_F(Drives, RootHomeAndRemovableMountsEachOnceInTheirOrderAreTheDriveRoots) {
     std::vector<Drive> list = drives();
     EXPECT_EQ(PathsOf(list),
               (std::vector<std::string>{"/", home.string(), "/media/usb stick", "/mnt/alpha",
@@ -71,10 +71,8 @@ TEST_F(Drives, RootHomeAndRemovableMountsEachOnceInTheirOrder) {
     EXPECT_EQ(list[2].label, "USB STICK");
     EXPECT_EQ(list[3].label, "");
     EXPECT_EQ(PathsOf(MountedDrives(mountinfo, "", folder / "by-label"))[1], "/media/usb stick");
-}
 
-TEST_F(Drives, ADriveRootIsTheMountPathOfAListedDrive) {
-    std::vector<Drive> list = drives();
+    // A drive root is the mount path of a listed drive.
     EXPECT_TRUE(IsDriveRoot("/media/usb stick/", list));
     EXPECT_TRUE(IsDriveRoot("/", list));
     EXPECT_TRUE(IsDriveRoot(home, list));

@@ -93,16 +93,15 @@ TEST(CatalogueFile, TocLinesNeverHoldLineBreaksOrSeparators) {
     EXPECT_EQ(group.descriptionLine, "two  lines 2");
 }
 
-TEST(EntryOffset, TwoDigitsAByteMostSignificantFirst) {
+TEST(EntryOffset, TwoDigitsAByteMostSignificantFirstUpdatedToTheTocEnd) {
     EXPECT_EQ(EncodeEntryOffset(1234567), std::string("\x01\x17\x2D\x43", 4));
     EXPECT_EQ(DecodeEntryOffset(std::string("\x01\x17\x2D\x43", 4)), 1234567u);
     EXPECT_EQ(EncodeEntryOffset(123456789), EncodeEntryOffset(23456789));  // the format's limit
     // A byte over 99 gives only its last two digits: 255 -> "55".
     EXPECT_EQ(DecodeEntryOffset(std::string("\x00\x00\x00\xFF", 4)), 55u);
     EXPECT_EQ(DecodeEntryOffset(std::string("\x00\x01", 2)), 10000u);  // missing bytes are 0
-}
 
-TEST(EntryOffset, TocEndIsFoundByReadingGroups) {
+    // The TOC's end is found by reading its groups.
     test::TestEnvironment env;
     auto file = env.folder / "c.zvx";
     std::string toc = "a\\\r\n2\r\n00000000\r\nb\\\n2\n00000001\n\n";
