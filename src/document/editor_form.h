@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace zvx {
 
@@ -30,5 +31,32 @@ struct EditorForm {
 
 // Whether the field has a lock check box.
 bool HasLock(int field);
+
+// What the field's control shows when it is cleared: "0" for the size, "<unavailable>"
+// for the medium ID, "Read-only: n/a", "<unknown>" for the medium description and the
+// genre, "00" for the track, "" for the others (field 8: no file-type selected).
+std::string EmptyFormValue(int field);
+
+// The clearing step for all fields 1 to 22: a field with a lock keeps its text while
+// the lock is checked; every other field shows its empty form value.
+void ClearForm(EditorForm& form);
+
+// Shows an entry line (folder ID in front) on the form, fields 1 to 22 in their display
+// forms: the size in digit groups ("1 234 567", nothing for 0), "Read-only: Yes" or
+// "Read-only: No", the date through the date normaliser, the track through the track
+// format, the bitrate with " kbps", the frequency with " hz", and "n/a" for a "0" in
+// fields 19 to 22. An empty field is cleared; a locked field keeps what the form
+// shows. Field 8 is the file-type's text; the window selects Combo1's row of exactly
+// that text.
+void FillForm(EditorForm& form, std::string_view line, int renumberingLevel);
+
+// Comboenabling: the audio-only fields are enabled unless a file-type is selected that
+// does not begin with "Audio:" (then Text11, the description, is enabled instead).
+bool AudioFieldsEnabled(std::string_view fileType);
+
+// The year field's check when it loses the focus: a one- or two-digit year becomes a
+// four-digit one (7 is 1997, 3 is 2003, 85 is 1985, 29 is 2029), a four-digit year from
+// 1000 to 2999 stays, anything else becomes "2000".
+std::string YearCheck(std::string_view text);
 
 }  // namespace zvx
