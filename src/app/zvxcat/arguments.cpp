@@ -25,9 +25,9 @@ Arguments ParseArguments(const std::vector<std::string>& args,
         } else if (known(arg + "=")) {
             if (i + 1 == args.size())
                 throw UsageError("option '" + arg + "' needs a value");
-            parsed.values[arg] = args[++i];
+            parsed.values[arg].push_back(args[++i]);
         } else if (equals != std::string::npos && known(arg.substr(0, equals + 1))) {
-            parsed.values[arg.substr(0, equals)] = arg.substr(equals + 1);
+            parsed.values[arg.substr(0, equals)].push_back(arg.substr(equals + 1));
         } else {
             throw UsageError("unknown option '" + arg + "'");
         }

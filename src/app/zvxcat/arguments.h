@@ -20,14 +20,21 @@ class UsageError : public std::runtime_error {
 struct Arguments {
     std::vector<std::string> positional;
     std::set<std::string> flags;
-    std::map<std::string, std::string> values;  // options with a value, by their name
+    // Options with a value, by their name: every value given, in order.
+    std::map<std::string, std::vector<std::string>> values;
     bool help = false;
 
     bool has(std::string_view flag) const { return flags.count(std::string(flag)) > 0; }
-    // The value of an option such as "--icon", or null when it was not given.
+    // The value of an option such as "--icon" (the last one when it was given more than
+    // once), or null when it was not given.
     const std::string* value(std::string_view option) const {
         auto found = values.find(std::string(option));
-        return found == values.end() ? nullptr : &found->second;
+        return found == values.end() ? nullptr : &found->second.back();
+    }
+    // Every value of an option that may be given more than once ("--name"), in order.
+    std::vector<std::string> all(std::string_view option) const {
+        auto found = values.find(std::string(option));
+        return found == values.end() ? std::vector<std::string>() : found->second;
     }
 };
 
