@@ -9,6 +9,7 @@
 // the same with ten pairs or with a million. Two identical lines of a file are one key:
 // an edit of either changes the first of them that the final apply meets.
 
+#include <bitset>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -30,9 +31,17 @@ class ChangeBuffers {
     // The final apply's lookup for a line of the file: at a pair, gives its new line and
     // removes the pair, so a second identical line of the file stays as it is.
     bool take(std::string_view fileLine, std::string& newLine);
-    void clear() { pairs_.clear(); }
+    void clear();
 
   private:
+    // Whether a line may be an old line, told by its first eight bytes (its folder ID)
+    // alone: most lines of a file pass without being hashed whole. A slot stays marked
+    // when its pairs leave, which costs only a full lookup.
+    static size_t PrefixSlot(std::string_view line);
+    bool mayHold(std::string_view line) const { return prefixes_.test(PrefixSlot(line)); }
+
+    static constexpr size_t kPrefixSlots = size_t(1) << 16;
+    std::bitset<kPrefixSlots> prefixes_;
     struct Hash {
         using is_transparent = void;
         size_t operator()(std::string_view text) const {

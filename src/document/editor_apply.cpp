@@ -1,6 +1,8 @@
 #include "document/editor_apply.h"
 
 #include <exception>
+#include <utility>
+#include <vector>
 
 #include "common/common.h"
 #include "common/field_text.h"
@@ -62,7 +64,7 @@ void ResetAudioFields(EntryValues& v) {
 // The locked selection's resets, in the form's shape, so that reading the form back
 // gives the stored resets.
 void ResetLockedRow(EditorTexts& t) {
-    if (!LowerCase(t[8]).starts_with("audio:")) {
+    if (!TextEquals(std::string_view(t[8]).substr(0, 6), "audio:")) {
         for (int field : {9, 10, 11, 13, 14, 19, 22})
             t[static_cast<size_t>(field)].clear();
         t[15] = "0";
@@ -73,6 +75,32 @@ void ResetLockedRow(EditorTexts& t) {
     } else {
         t[18].clear();
     }
+}
+
+// One pass of the rewrite pattern: a line equal to a pair's old line takes its new line,
+// and the pair leaves, into `served`.
+void RewriteWithPairs(const Common& common, const std::filesystem::path& cfn,
+                      ChangeBuffers& pending,
+                      std::vector<std::pair<std::string, std::string>>& served) {
+    CatalogueRewrite rewrite(common, cfn);
+    TocGroup group;
+    while (rewrite.nextTocGroup(group))
+        rewrite.writeTocGroup(group);
+    rewrite.endToc();
+    std::string_view line;
+    std::string newLine;
+    while (rewrite.nextEntryLine(line)) {
+        if (!pending.empty() && pending.take(line, newLine)) {
+            rewrite.writeLine(newLine);
+            served.emplace_back(line, std::move(newLine));
+        } else {
+            rewrite.writeLine(line);
+        }
+    }
+    // The TOC is written as it was read, which can change its length (a line ended by
+    // LF alone gets CR LF, a missing closing line is added): the entry offset is set
+    // from what was written.
+    rewrite.finish(true);
 }
 
 }  // namespace
@@ -95,7 +123,7 @@ std::string ComposeEditedLine(std::string_view oldLine, const EditorTexts& t,
     v.date = Trim(t[7]);
     v.contentType = Trim(t[8]);
     v.comment = Trim(t[17]);
-    const bool readOnly = LowerCase(Right(t[5], 2)) == "es";
+    const bool readOnly = TextEquals(Right(t[5], 2), "es");
     return ComposeEntryLine(oldLine.substr(0, kFolderIdLength), fullPath, v, readOnly,
                             renumberingLevel);
 }
@@ -116,27 +144,19 @@ bool FinalApply(Common& common, const std::filesystem::path& cfn, ChangeBuffers&
         return false;
     common.screen().status("Applying Changes...");
     common.setProgressMax(static_cast<long long>(cfn.string().size()) + 1);
-    // The pass takes its pairs from a copy, so that the buffers stay whole when a write
-    // fails.
-    ChangeBuffers pending = buffers;
-    CatalogueRewrite rewrite(common, cfn);
-    TocGroup group;
-    while (rewrite.nextTocGroup(group))
-        rewrite.writeTocGroup(group);
-    rewrite.endToc();
-    std::string_view line;
-    std::string newLine;
-    while (rewrite.nextEntryLine(line)) {
-        if (!pending.empty() && pending.take(line, newLine))
-            rewrite.writeLine(newLine);
-        else
-            rewrite.writeLine(line);
-    }
-    // The TOC is written as it was read, which can change its length (a line ended by
-    // LF alone gets CR LF, a missing closing line is added): the entry offset is set
-    // from what was written.
-    rewrite.finish(true);
+    // The pass takes the pairs out as it meets their lines; a failed write puts back
+    // those it took, so that the buffers stay whole.
+    ChangeBuffers pending = std::move(buffers);
     buffers.clear();
+    std::vector<std::pair<std::string, std::string>> served;
+    try {
+        RewriteWithPairs(common, cfn, pending, served);
+    } catch (...) {
+        for (auto& [oldLine, newLine] : served)
+            pending.record(oldLine, std::move(newLine));
+        buffers = std::move(pending);
+        throw;
+    }
     common.SetActiveDocumentChanged();
     return true;
 }
@@ -147,13 +167,14 @@ void ApplyLockedSelection(Common& common, ChangeBuffers& buffers,
     common.screen().status("Applying locked selection to all entries...");
     common.setProgress(0);
     ProgressSteps progress(common, static_cast<long long>(rowLines.size()) + 1);
+    // Filling a copy of the form keeps the locked fields' values and takes all others
+    // from the row's line. One copy serves all rows, so that its texts keep their room.
+    EditorForm rowForm = form;
     for (size_t row = 0; row < rowLines.size(); ++row) {
         progress.set(static_cast<long long>(row) + 1);
         const std::string_view tag = rowLines[row];
         const std::string* buffered = buffers.newLineFor(tag);
-        // Filling a copy of the form keeps the locked fields' values and takes all
-        // others from the row's line.
-        EditorForm rowForm = form;
+        rowForm.texts = form.texts;
         FillForm(rowForm, buffered ? std::string_view(*buffered) : tag, renumberingLevel);
         ResetLockedRow(rowForm.texts);
         rowForm.texts[5] = "Read-only: No";
