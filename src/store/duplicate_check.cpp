@@ -1,6 +1,7 @@
 #include "store/duplicate_check.h"
 
 #include <string>
+#include <vector>
 
 #include "common/common.h"
 #include "platform/file_io.h"
@@ -62,22 +63,13 @@ DuplicateVerdict JudgeByScan(Common& common, const std::filesystem::path& file,
 
 // The same hits in the same order as the scan, found through the run's index.
 DuplicateVerdict JudgeByIndex(Common& common, DuplicateIndex& index, std::string_view newLine) {
-    const EntryFields added = SplitEntryLine(newLine);
-    DuplicateVerdict verdict;
+    const std::vector<size_t> candidates = index.candidates(newLine);
+    DuplicateVerdict verdict =
+        JudgeCandidates(common, newLine, candidates.size(),
+                        [&](size_t position) { return index.lineAt(candidates[position]); });
+    if (verdict.replaced != 0)
+        verdict.replaced = candidates[verdict.replaced - 1] + 1;
     verdict.byIndex = true;
-    for (size_t candidate : index.candidates(newLine)) {
-        const std::string line = index.lineAt(candidate);
-        if (!IsDuplicate(line, newLine, added))
-            continue;  // another key of the same hash
-        if (AskOverwrite(common, SplitEntryLine(line), added)) {
-            verdict.replaced = candidate + 1;
-            break;  // the new line stays refused if an earlier hit was kept
-        }
-        verdict.write = false;
-        // Under "Keep all" every further hit is kept without a question.
-        if (common.DuplicateChoice == kKeepAll)
-            break;
-    }
     return verdict;
 }
 
@@ -106,6 +98,26 @@ void StrikeOutLines(const Common& common, const std::filesystem::path& file,
         writer.close();
     }
     ReplaceFile(scratch, file);
+}
+
+DuplicateVerdict JudgeCandidates(Common& common, std::string_view newLine, size_t count,
+                                 const std::function<std::string(size_t)>& lineAt) {
+    const EntryFields added = SplitEntryLine(newLine);
+    DuplicateVerdict verdict;
+    for (size_t position = 0; position < count; ++position) {
+        const std::string line = lineAt(position);
+        if (!IsDuplicate(line, newLine, added))
+            continue;  // another key of the same hash
+        if (AskOverwrite(common, SplitEntryLine(line), added)) {
+            verdict.replaced = position + 1;
+            break;  // the new line stays refused if an earlier hit was kept
+        }
+        verdict.write = false;
+        // Under "Keep all" every further hit is kept without a question.
+        if (common.DuplicateChoice == kKeepAll)
+            break;
+    }
+    return verdict;
 }
 
 DuplicateVerdict JudgeDuplicate(Common& common, const std::filesystem::path& file,

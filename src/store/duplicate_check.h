@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace zvx {
@@ -33,6 +34,13 @@ struct DuplicateVerdict {
 // the file, its duplicate index answers, with the same questions and the same outcome.
 DuplicateVerdict JudgeDuplicate(Common& common, const std::filesystem::path& file,
                                 std::string_view newLine);
+
+// The check over the lines that may be duplicates of `newLine` (`count` of them, read by
+// `lineAt`, in file order), with the questions and the outcome of the full scan: lines of
+// another key are passed over, and the verdict's `replaced` is one more than the position
+// of the line that is to go. The indexes that answer instead of a scan go through it.
+DuplicateVerdict JudgeCandidates(Common& common, std::string_view newLine, size_t count,
+                                 const std::function<std::string(size_t)>& lineAt);
 
 // Strikes out the line the verdict replaces: from the file at once after a scan (throws
 // FileError), from the run's index (and from the file when the run ends) otherwise.
