@@ -7,11 +7,11 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 13> AllCommands() {
+std::array<const Command*, 15> AllCommands() {
     return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(), &LsCommand(),
             &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),    &MvdirCommand(),
             &RenameCommand(),  &TagsCommand(),  &ScanCommand(),     &AddCommand(),
-            &AddTreeCommand()};
+            &AddTreeCommand(), &SetCommand(),   &EditCommand()};
 }
 
 }  // namespace

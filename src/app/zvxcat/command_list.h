@@ -21,6 +21,8 @@ const Command& TagsCommand();
 const Command& ScanCommand();
 const Command& AddCommand();
 const Command& AddTreeCommand();
+const Command& SetCommand();
+const Command& EditCommand();
 
 // The command of that name, or nullptr.
 const Command* FindCommand(std::string_view name);
