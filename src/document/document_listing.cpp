@@ -96,6 +96,15 @@ void frmDocument::buildList() {
 }
 
 void frmDocument::ShowEntries() {
+    if (editorOnShow())
+        applyEditorChanges();
+    listEntries();
+    // The editor goes on in the new listing, so that its row on show is one of it.
+    if (editorOnShow())
+        EditorRefresh();
+}
+
+void frmDocument::listEntries() {
     ListingSelection selection;
     selection.hasFolders = !tree_.empty();
     const int node = selectedFolder();

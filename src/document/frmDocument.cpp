@@ -65,6 +65,7 @@ frmDocument::frmDocument(Common& common, QWidget* parent) : QWidget(parent), com
     Tabthing_->setObjectName("Tabthing");
     rightLayout->addWidget(Tabthing_);
     buildList();
+    buildEditor();
     splitter_->addWidget(right);
     splitter_->setStretchFactor(1, 3);
     layout->addWidget(splitter_);
@@ -108,6 +109,8 @@ void frmDocument::refresh_Click() {
 }
 
 void frmDocument::listak() {
+    if (editorOnShow())
+        applyEditorChanges();
     const int remembered = List2_->topLevelItemCount() > 0 ? selectedFolder() : -1;
     List2_->hide();
     tree_ = zvx::listak(common_, cfn());
@@ -164,7 +167,8 @@ void frmDocument::List2_Collapse(QTreeWidgetItem* item) {
     List2_->setCurrentItem(item);
     filling_ = false;
     if (shown.size() > path.size() && shown.starts_with(path)) {
-        Editor_Final_Apply_Changes();
+        if (editorOnShow())
+            applyEditorChanges();
         showCaption();
         ShowEntries();
     }

@@ -7,9 +7,12 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "document/change_buffers.h"
 #include "document/document_view.h"
+#include "document/editor_navigation.h"
 #include "document/folder_tree.h"
 #include "document/list_sorting.h"
 #include "document/selection_facts.h"
@@ -29,7 +32,10 @@ class QTreeWidgetItem;
 namespace zvx {
 
 class Common;
+class EntryEditor;
 class EntryListModel;
+class SelectedRows;
+enum class EntryCopyMode;
 
 class frmDocument : public QWidget, public DocumentView {
     Q_OBJECT
@@ -41,7 +47,9 @@ class frmDocument : public QWidget, public DocumentView {
     void setCaption(const std::string& text) override;
     // Rebuilds the tree from the working copy and lists the selected folder.
     void refresh_Click() override;
-    void Editor_Final_Apply_Changes() override {}
+    // The final apply while the editor's tab is on show; the list and the editor then
+    // show the lines as they now stand in the working copy.
+    void Editor_Final_Apply_Changes() override;
 
     // The working copy, from the lifecycle; installed by the main window.
     std::function<std::filesystem::path()> workingCopy;
@@ -72,6 +80,20 @@ class frmDocument : public QWidget, public DocumentView {
     void increasemnu_Click();
     void expselmnu_Click();
     void incselmnu_Click();
+
+    // The entry editor, tab 2 of Tabthing: the tab's click (leaving the editor applies
+    // its changes, entering it starts on the one selected row), entry_editstart, and
+    // editmnu0 and editmnu1 (the editor on the selected rows only, or on all).
+    void Tabthing_Click();
+    void entry_editstart();
+    void editEntries(bool selectedOnly);
+    EntryEditor* editor() const { return editor_; }
+
+    // Entry commands: copy or move the selected entries to a folder chosen in the
+    // moving dialog, and delete them after the question.
+    void copymnumnu_Click();
+    void movemnumnu_Click();
+    void remdelmnumnu_Click();
 
     // View: sub-view, list style (0 large icons, 1 small icons, 2 list, 3 report) and
     // column settings.
@@ -104,6 +126,20 @@ class frmDocument : public QWidget, public DocumentView {
     void sortBy(int column);
     void applySort();
     void summarize();
+    void listEntries();
+    void buildEditor();
+    void EditorInit();
+    void EditorRefresh();
+    void Editor_Temp_ApplyChanges();
+    bool applyEditorChanges(std::vector<std::string>* selectedLines = nullptr);
+    void selectLines(const std::vector<std::string>& lines);
+    bool editorOnShow() const;
+    std::vector<int> selectedRowNumbers() const;
+    std::vector<std::string_view> editedLines() const;
+    void forgetChanges();
+    void applyLockedSelection();
+    void copyOrMove(EntryCopyMode mode);
+    SelectedRows selectedRows() const;
 
     Common& common_;
     QSplitter* splitter_;
@@ -124,6 +160,11 @@ class frmDocument : public QWidget, public DocumentView {
     int listStyle_ = 3;
     bool filling_ = false;
     bool TreeHidden_ = false;
+    EntryEditor* editor_;
+    EditorMemory editorMemory_;
+    bool EditorChanged_ = false;
+    // buffer_old and buffer_new: the edits waiting for the final apply.
+    ChangeBuffers buffers_;
 };
 
 }  // namespace zvx

@@ -88,7 +88,9 @@ void DocumentLifecycle::SaveAsDoc(Document& document) {
 }
 
 // On failure the document keeps its change flag and the user's file its old content.
+// The edits waiting in an open editor go into the working copy first.
 bool DocumentLifecycle::copyToUserFile(Document& document, const std::string& path) {
+    document.view->Editor_Final_Apply_Changes();
     try {
         CopyFileSafely(document.cfn, path);
         return true;
