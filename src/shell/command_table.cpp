@@ -8,6 +8,7 @@ namespace {
 
 // The order is part of the behaviour: the first matching row runs.
 constexpr std::array kCommandNames{
+    CommandName{"", "entry_editstart", Command::EntryEditStart},
     CommandName{"mbarstandard", "zvx_toolbars_standard", Command::ToolbarsStandard},
     CommandName{"mbarprogress", "zvx_toolbars_progress", Command::ToolbarsProgress},
     CommandName{"newsclientbar", "zvx_toolbars_newsclient", Command::ToolbarsNewsclient},
@@ -38,6 +39,11 @@ constexpr std::array kCommandNames{
     CommandName{"viewmnu3", "document_view_icon", Command::ViewLargeIcons},
     // Its other name is taken by the row above, so only the menu key reaches it.
     CommandName{"viewmnu5", "document_view_icon", Command::ViewReport},
+    CommandName{"foldermnu7", "entry_delete", Command::EntryDelete},
+    CommandName{"copymovemnu0", "entry_copy", Command::EntryCopy},
+    CommandName{"copymovemnu1", "entry_move", Command::EntryMove},
+    CommandName{"editmnu0", "entry_editsel", Command::EntryEditSelected},
+    CommandName{"editmnu1", "entry_editall", Command::EntryEditAll},
     CommandName{"reportstylemnu0", "document_view_savecols", Command::ViewSaveColumns},
 };
 

@@ -11,6 +11,7 @@ namespace zvx {
 
 enum class Command {
     None,  // an unknown name: ignored without a message
+    EntryEditStart,
     ToolbarsStandard,
     ToolbarsProgress,
     ToolbarsNewsclient,
@@ -40,6 +41,11 @@ enum class Command {
     ViewSmallIcons,
     ViewLargeIcons,
     ViewReport,
+    EntryDelete,
+    EntryCopy,
+    EntryMove,
+    EntryEditSelected,
+    EntryEditAll,
     ViewSaveColumns,
     RecentFile,     // the argument is the rest of the name: the number of the menu entry
     ColumnSetting,  // the argument is the number of the column-setting menu entry

@@ -201,6 +201,30 @@ void frmMain::documentCommand(Command command) {
         case Command::ViewReport:
             document->setListStyle(kReportStyle);
             break;
+        case Command::EntryEditStart:
+            document->entry_editstart();
+            break;
+        case Command::EntryEditSelected:
+            document->editEntries(true);
+            break;
+        case Command::EntryEditAll:
+            document->editEntries(false);
+            break;
+        case Command::EntryCopy:
+            if (copyMoveState_ == "init")
+                copyMoveState_ = "copy";
+            else
+                document->copymnumnu_Click();
+            break;
+        case Command::EntryMove:
+            if (copyMoveState_ == "init")
+                copyMoveState_ = "move";
+            else
+                document->movemnumnu_Click();
+            break;
+        case Command::EntryDelete:
+            document->remdelmnumnu_Click();
+            break;
         default:
             break;
     }

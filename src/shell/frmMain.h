@@ -136,6 +136,9 @@ class frmMain : public QMainWindow, public DocumentWindows {
     frmSplash* splash_ = nullptr;
     bool busy_ = false;
     bool unloaded_ = false;
+    // The copy or move state: "init" while a drop of entries waits for the choice of
+    // entry_copy or entry_move, which then sets "copy" or "move" instead of running.
+    std::string copyMoveState_;
 };
 
 }  // namespace zvx

@@ -72,6 +72,15 @@ void frmMain::buildMenus() {
     add->setObjectName("addmnu");
     addEntry(add, "addmnu0", "&Wizard...", "drive-harddisk");
     addEntry(add, "addmnu2", "&Manually...", "list-add");
+    QMenu* edit = entries->addMenu("&Edit");
+    edit->setObjectName("editmnu");
+    addEntry(edit, "editmnu0", "&Selected Entries...", "document-edit");
+    addEntry(edit, "editmnu1", "&All Entries...");
+    QMenu* copyMove = entries->addMenu("&Copy / Move");
+    copyMove->setObjectName("copymovemnu");
+    addEntry(copyMove, "copymovemnu0", "&Copy To...", "edit-copy");
+    addEntry(copyMove, "copymovemnu1", "&Move To...", "edit-cut");
+    addEntry(entries, "foldermnu7", "&Delete", "edit-delete");
 
     QMenu* folders = menuBar()->addMenu("F&older");
     folderMenu_ = folders;

@@ -105,9 +105,13 @@ std::string JourneyScreen::input(const std::string& caption, const std::string&,
     return expected ? expected->text : std::string();
 }
 
+void JourneyScreen::expectDuplicate(const std::string& choice) {
+    script_.push_back({"doubledetect", "", {}, MsgAnswer::Ok, choice, {}});
+}
+
 std::string JourneyScreen::doubledetect(const DuplicateQuestion&) {
-    next("doubledetect", "", "");
-    return "keepold";
+    const Expected* expected = next("doubledetect", "", "");
+    return expected ? expected->text : "keepold";
 }
 
 FileDialogResult JourneyScreen::fileDialog(const FileDialogRequest& request) {
@@ -290,9 +294,10 @@ QTreeView* List(frmDocument& document) {
     return document.findChild<QTreeView*>("ListView1");
 }
 
-void ClickAt(QAbstractItemView* view, const QModelIndex& index) {
+void ClickAt(QAbstractItemView* view, const QModelIndex& index,
+             Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     view->scrollTo(index);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers,
                       view->visualRect(index).center());
 }
 
@@ -324,10 +329,10 @@ void ClickFolder(frmDocument& document, const QString& path) {
                   << FolderPaths(document).join(", ").toStdString();
 }
 
-void ClickRow(frmDocument& document, int row) {
+void ClickRow(frmDocument& document, int row, Qt::KeyboardModifiers modifiers) {
     QTreeView* list = List(document);
     ASSERT_LT(row, list->model()->rowCount()) << "the list has no row " << row;
-    ClickAt(list, list->model()->index(row, 0));
+    ClickAt(list, list->model()->index(row, 0), modifiers);
 }
 
 int RowCount(frmDocument& document) {

@@ -34,6 +34,9 @@ class JourneyScreen : public QtScreen {
     void expectInput(const std::string& caption, const std::string& answer);
     // The next file dialog has this title; an empty list of paths cancels it.
     void expectFileDialog(const std::string& title, const FileDialogResult& answer);
+    // The next duplicate question is answered with "keepold", "keepall", "delold" or
+    // "delall".
+    void expectDuplicate(const std::string& choice);
 
     MsgAnswer message(const std::string& caption, const std::string& text, MsgButtons buttons,
                       MsgIcon icon) override;
@@ -126,8 +129,8 @@ frmDocument* ActiveDocument(frmMain& main);
 QStringList FolderPaths(frmDocument& document);
 // Clicks a folder of the tree, found by its path.
 void ClickFolder(frmDocument& document, const QString& path);
-// Clicks a row of the entry list.
-void ClickRow(frmDocument& document, int row);
+// Clicks a row of the entry list; with Shift or Ctrl it extends the selection.
+void ClickRow(frmDocument& document, int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 // The number of rows the entry list shows.
 int RowCount(frmDocument& document);
 
