@@ -43,7 +43,7 @@ class CopyMoveRun {
             CopyFileBytes(cfn, common.workFile(kDecheckFile));
     }
 
-    void run(const SelectedRows& selected) {
+    EntryCopyCount run(const SelectedRows& selected) {
         std::string_view line;
         while (pass_.next(line)) {
             if (selected.matches(line))
@@ -54,6 +54,7 @@ class CopyMoveRun {
         pass_.close();
         if (index_)
             index_->strikeOut(common_, common_.workFile(kTempFile));
+        return count_;
     }
 
     void replace() { pass_.replace(); }
@@ -62,6 +63,7 @@ class CopyMoveRun {
     // The target text stands in place of the ID as it is, "\" and all; so a line goes
     // into its own folder only by the bare ID.
     void copySelected(std::string_view line) {
+        ++count_.selected;
         const bool ownFolder = target_ == FolderIdOf(line);
         if (mode_ == EntryCopyMode::Copy) {
             write(line, line, false);
@@ -71,8 +73,10 @@ class CopyMoveRun {
         std::string moved = target_;
         if (line.size() > kFolderIdLength)
             moved += line.substr(kFolderIdLength);
-        if (ownFolder || check(moved))
+        if (ownFolder || check(moved)) {
             write(line, moved, true);
+            ++count_.written;
+        }
     }
 
     bool check(const std::string& moved) {
@@ -97,6 +101,7 @@ class CopyMoveRun {
     std::string target_;
     EntryPass pass_;
     std::optional<CopyTargetIndex> index_;
+    EntryCopyCount count_;
 };
 
 }  // namespace
@@ -110,19 +115,20 @@ bool SelectedRows::matches(std::string_view line) const {
     return ids_.find(FolderIdOf(line)) != ids_.end() && keys_.count(MatchKey(line)) > 0;
 }
 
-void CopyMove(Common& common, const std::filesystem::path& cfn, EntryCopyMode mode,
-              std::string_view target, const SelectedRows& selected, bool listHasRows) {
+EntryCopyCount CopyMove(Common& common, const std::filesystem::path& cfn, EntryCopyMode mode,
+                        std::string_view target, const SelectedRows& selected, bool listHasRows) {
     common.DuplicateChoice.clear();
     if (!listHasRows)
-        return;
+        return {};
     const bool copy = mode == EntryCopyMode::Copy;
     common.screen().status(copy ? "Copying selected entries..." : "Moving selected entries...");
     CopyMoveRun run(common, cfn, mode, target);
-    run.run(selected);
+    const EntryCopyCount count = run.run(selected);
     DeleteFileIfExists(common.workFile(kDecheckFile));
     run.replace();
     common.PLUGSTART(copy ? "ENTRYCOPY" : "ENTRYMOVE");
     common.screen().status("");
+    return count;
 }
 
 bool ConfirmEntryDelete(Common& common) {
@@ -130,18 +136,23 @@ bool ConfirmEntryDelete(Common& common) {
                                    MsgButtons::YesNo, MsgIcon::None) == MsgAnswer::Yes;
 }
 
-void DeleteEntries(Common& common, const std::filesystem::path& cfn, const SelectedRows& selected) {
+size_t DeleteEntries(Common& common, const std::filesystem::path& cfn,
+                     const SelectedRows& selected) {
     common.screen().status("Removing selected entries...");
     EntryPass pass(common, cfn);
+    size_t removed = 0;
     std::string_view line;
     while (pass.next(line)) {
-        if (!selected.matches(line))
+        if (selected.matches(line))
+            ++removed;
+        else
             pass.write(line);
     }
     pass.close();
     pass.replace();
     common.PLUGSTART("ENTRYDEL");
     common.screen().status("");
+    return removed;
 }
 
 }  // namespace zvx

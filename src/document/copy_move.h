@@ -9,6 +9,7 @@
 // The window hides and shows its list and runs ShowEntries around these; the core does
 // the rest. A file error throws FileError and leaves the working copy as it was.
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -45,6 +46,14 @@ class SelectedRows {
 
 enum class EntryCopyMode { Copy, Move };
 
+// What a copy or move did: the file lines of the selected rows, and how many of them
+// went into the target (the others were kept out by the duplicate check; a moved one is
+// then gone, and a line copied into its own folder by the bare ID stays only once).
+struct EntryCopyCount {
+    size_t selected = 0;
+    size_t written = 0;
+};
+
 // CopyMove: copies or moves the lines of the selected rows to the folder that `target`
 // begins with. The menu commands give the folder ID followed by "\", which then stands
 // as the ninth character of each line written; dragging gives the bare ID. Clears
@@ -52,13 +61,14 @@ enum class EntryCopyMode { Copy, Move };
 // into its own folder by the bare ID is written once and asks nothing; a moved line
 // takes the place of its source, so a move answered "Keep old" keeps only the target's
 // entry. Fires ENTRYMOVE or ENTRYCOPY.
-void CopyMove(Common& common, const std::filesystem::path& cfn, EntryCopyMode mode,
-              std::string_view target, const SelectedRows& selected, bool listHasRows);
+EntryCopyCount CopyMove(Common& common, const std::filesystem::path& cfn, EntryCopyMode mode,
+                        std::string_view target, const SelectedRows& selected, bool listHasRows);
 
 // The question before a delete: whether the person answered Yes.
 bool ConfirmEntryDelete(Common& common);
 
-// Removes the lines of the selected rows and fires ENTRYDEL.
-void DeleteEntries(Common& common, const std::filesystem::path& cfn, const SelectedRows& selected);
+// Removes the lines of the selected rows and fires ENTRYDEL; how many went.
+size_t DeleteEntries(Common& common, const std::filesystem::path& cfn,
+                     const SelectedRows& selected);
 
 }  // namespace zvx

@@ -34,12 +34,12 @@ struct Document {
         test::WriteAll(cfn, CatalogueBytes(kFolders, entries));
         env.common.onPlugStart = [this](const std::string& name) { events.push_back(name); };
     }
-    void copyMove(EntryCopyMode mode, const std::string& target,
-                  const std::vector<std::string>& rows) {
+    EntryCopyCount copyMove(EntryCopyMode mode, const std::string& target,
+                            const std::vector<std::string>& rows) {
         SelectedRows selected;
         for (const std::string& row : rows)
             selected.add(row);
-        CopyMove(env.common, cfn, mode, target, selected, !rows.empty());
+        return CopyMove(env.common, cfn, mode, target, selected, !rows.empty());
     }
     std::string bytes() const { return test::ReadAll(cfn); }
     bool is(const std::vector<std::string>& entries) const {
@@ -97,7 +97,9 @@ TEST(CopyMove, AMoveAnsweredKeepOldLosesTheSourceAndKeepsTheTargetsEntry) {
     const std::string old = Entry("00000001", "a", "7", "04-05-2006");
     Document doc({old, source, Entry("00000000", "c")});
     doc.env.screen.answerDuplicate(kKeepOld);
-    doc.copyMove(EntryCopyMode::Move, "00000001\\", {source});
+    const EntryCopyCount count = doc.copyMove(EntryCopyMode::Move, "00000001\\", {source});
+    EXPECT_EQ(count.selected, 1u);
+    EXPECT_EQ(count.written, 0u);
     EXPECT_TRUE(doc.is({old, Entry("00000000", "c")}));
     ASSERT_EQ(doc.env.screen.duplicates.size(), 1u);
     const DuplicateQuestion& q = doc.env.screen.duplicates[0];
@@ -134,7 +136,7 @@ TEST(DeleteEntries, AskFirstAndRemoveTheLinesOfTheSelectedRows) {
               "Question|Are you sure to delete the selected entries?");
     SelectedRows selected;
     selected.add(a);
-    DeleteEntries(doc.env.common, doc.cfn, selected);
+    EXPECT_EQ(DeleteEntries(doc.env.common, doc.cfn, selected), 2u);
     EXPECT_TRUE(doc.is({Entry("00000001", "a"), Entry("00000000", "b")}));
     EXPECT_EQ(doc.events, std::vector<std::string>{"ENTRYDEL"});
     EXPECT_EQ(doc.env.screen.statuses,

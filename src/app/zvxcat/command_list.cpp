@@ -7,11 +7,12 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 15> AllCommands() {
+std::array<const Command*, 18> AllCommands() {
     return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(), &LsCommand(),
             &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),    &MvdirCommand(),
             &RenameCommand(),  &TagsCommand(),  &ScanCommand(),     &AddCommand(),
-            &AddTreeCommand(), &SetCommand(),   &EditCommand()};
+            &AddTreeCommand(), &SetCommand(),   &EditCommand(),     &CpCommand(),
+            &MvCommand(),      &RmCommand()};
 }
 
 }  // namespace

@@ -21,6 +21,9 @@ const Command& TagsCommand();
 const Command& ScanCommand();
 const Command& AddCommand();
 const Command& AddTreeCommand();
+const Command& CpCommand();
+const Command& MvCommand();
+const Command& RmCommand();
 const Command& SetCommand();
 const Command& EditCommand();
 

@@ -37,4 +37,11 @@ EntryRows SelectEntries(Common& common, const std::filesystem::path& catalogue,
                          arguments.all("--name"));
 }
 
+SelectedRows SelectedRowsOf(const EntryRows& rows) {
+    SelectedRows selected;
+    for (size_t row = 0; row < rows.size(); ++row)
+        selected.add(rows.line(row));
+    return selected;
+}
+
 }  // namespace zvx::cat

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "arguments.h"
+#include "document/copy_move.h"
 #include "document/entry_rows.h"
 #include "document/folder_tree.h"
 
@@ -33,5 +34,8 @@ EntryRows SelectEntries(Common& common, const std::filesystem::path& catalogue,
 // (ToolFailure naming `catalogue` when the tree has none), --sub and every --name.
 EntryRows SelectEntries(Common& common, const std::filesystem::path& catalogue,
                         const FolderTree& tree, const Arguments& arguments);
+
+// The selected-row match of the rows.
+SelectedRows SelectedRowsOf(const EntryRows& rows);
 
 }  // namespace zvx::cat
