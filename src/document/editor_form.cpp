@@ -106,8 +106,6 @@ std::string EmptyFormValue(int field) {
     switch (field) {
         case 2:
             return "0";
-        case 4:
-            return "<unavailable>";
         case 5:
             return "Read-only: n/a";
         case 6:

@@ -32,10 +32,13 @@ struct EditorForm {
 // Whether the field has a lock check box.
 bool HasLock(int field);
 
-// What the field's control shows when it is cleared: "0" for the size, "<unavailable>"
-// for the medium ID, "Read-only: n/a", "<unknown>" for the medium description and the
-// genre, "00" for the track, "" for the others (field 8: no file-type selected).
+// What the field's control shows when it is cleared: "0" for the size, "Read-only: n/a",
+// "<unknown>" for the medium description and the genre, "00" for the track, "" for the
+// others (field 8: no file-type selected). The medium ID is cleared to nothing, so that
+// an entry without one keeps none when it is edited; kMediumIdAtStart is only what its
+// label shows before the first row.
 std::string EmptyFormValue(int field);
+inline constexpr const char* kMediumIdAtStart = "<unavailable>";
 
 // The clearing step for all fields 1 to 22: a field with a lock keeps its text while
 // the lock is checked; every other field shows its empty form value.

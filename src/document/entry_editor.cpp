@@ -55,7 +55,7 @@ EntryEditor::EntryEditor(QWidget* parent) : QWidget(parent) {
     layout->addWidget(buildNavigation());
     buildStyleChooser();
     buildJumpList();
-    Label16_->setText(ToQString(EmptyFormValue(4)));
+    Label16_->setText(QString::fromLatin1(kMediumIdAtStart));
     Comboenabling();
 }
 
