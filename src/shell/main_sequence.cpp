@@ -8,6 +8,7 @@
 #include "common/application_folder.h"
 #include "common/clock.h"
 #include "common/common.h"
+#include "extensions/extension_lists.h"
 #include "platform/instance_lock.h"
 #include "platform/registration.h"
 #include "shell/Form1.h"
@@ -75,8 +76,13 @@ class ScreenConnection {
 void LoadExtras(Common& common, frmMain& main, frmSplash& splash,
                 const RegistrationEnvironment& registration) {
     splash.setStatus("Loading Shared Documents...");
+    const ScanTextSink showOnSplash = [&splash](const std::string& text) {
+        splash.setStatus(QString::fromStdString(text));
+    };
     splash.setStatus("Loading Plug-Ins...");
+    RunGuarded(common, [&] { BuildPlugInList(common, showOnSplash); });
     splash.setStatus("Loading Add-Ons...");
+    RunGuarded(common, [&] { BuildAddOnList(common, showOnSplash); });
     splash.setStatus("Setting Up Menu-Scripts...");
     splash.setStatus("Loading Internet-Components...");
     main.newsPanel()->initialise(ReadSetting(common, "NEWSCLIENTMINIMIZED", "NO").isYes(),

@@ -7,12 +7,12 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 18> AllCommands() {
+std::array<const Command*, 19> AllCommands() {
     return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(), &LsCommand(),
             &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),    &MvdirCommand(),
             &RenameCommand(),  &TagsCommand(),  &ScanCommand(),     &AddCommand(),
             &AddTreeCommand(), &SetCommand(),   &EditCommand(),     &CpCommand(),
-            &MvCommand(),      &RmCommand()};
+            &MvCommand(),      &RmCommand(),    &ExtensionsCommand()};
 }
 
 }  // namespace
@@ -30,7 +30,7 @@ void PrintToolHelp(std::ostream& out) {
            "       zvxcat COMMAND --help\n\n"
            "Commands:\n";
     for (const Command* command : AllCommands()) {
-        out << "  " << std::left << std::setw(10) << command->name << command->summary << "\n";
+        out << "  " << std::left << std::setw(12) << command->name << command->summary << "\n";
     }
     out << "\nExit status: 0 success, 1 failure, 2 wrong use.\n";
 }
