@@ -1,0 +1,83 @@
+#include "bench_support.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <stdexcept>
+#include <system_error>
+
+#include "catalogue_generator.h"
+#include "platform/file_io.h"
+#include "store/entry_offset.h"
+#include "store/folder_listing.h"
+
+namespace zvx::bench {
+
+namespace fs = std::filesystem;
+
+ScratchFolder::ScratchFolder(const fs::path& base) {
+    std::string pattern = (base / "zvx-bench-XXXXXX").string();
+    if (!mkdtemp(pattern.data()))
+        throw std::runtime_error("cannot make a temporary folder");
+    path_ = pattern;
+}
+
+ScratchFolder::~ScratchFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+}
+
+fs::path DefaultWorkBase() {
+    std::error_code ec;
+    return fs::is_directory("/dev/shm", ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
+}
+
+double Median(std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+std::string ShellQuoted(const std::string& text) {
+    std::string quoted = "'";
+    for (char c : text)
+        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return quoted + "'";
+}
+
+void RunShell(const std::string& command) {
+    const std::string line = "LC_ALL=C " + command;
+    if (std::system(line.c_str()) != 0)
+        throw std::runtime_error("failed: " + command);
+}
+
+// The IDs keep their length, so the entry offset stays right.
+fs::path SparseFolderCatalogue(const fs::path& folder, uint64_t entries) {
+    const fs::path file = folder / ("locked_" + std::to_string(entries / 1000) + "k.zvx");
+    if (fs::exists(file))
+        return file;
+    const fs::path generated = file.string() + ".generated";
+    GenerateCatalogue(generated, {.entries = entries, .folders = entries / 500});
+    std::string bytes = ReadFileBytes(generated, 0, FileLength(generated));
+    size_t at = ReadEntryOffset(generated) - 1;
+    for (uint64_t number = 0; at < bytes.size(); ++number) {
+        if (number % 100 == 0)
+            bytes.replace(at, 8, kSparseFolderId);
+        else if (bytes.compare(at, 8, kSparseFolderId) == 0)
+            bytes.replace(at, 8, kOtherFolderId);
+        at = bytes.find('\n', at);
+        at = at == std::string::npos ? bytes.size() : at + 1;
+    }
+    WriteEmptyFile(generated);
+    WriteFileBytes(generated, 0, bytes);
+    fs::rename(generated, file);
+    return file;
+}
+
+std::vector<std::string> FolderRows(const fs::path& catalogue, const std::string& folderId) {
+    std::vector<std::string> rows;
+    ListFolderEntries(catalogue, folderId, [&](std::string_view line) { rows.emplace_back(line); });
+    return rows;
+}
+
+}  // namespace zvx::bench

@@ -1,0 +1,60 @@
+#pragma once
+// What the benchmarks that time an operation against a shell tool share: a scratch folder
+// (in /dev/shm where it exists), timing, medians, shell commands, and the catalogues whose
+// folder 00000001 holds one entry in a hundred, spread over the whole file.
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace zvx::bench {
+
+// A temporary folder under `base`, removed with everything in it at the end.
+class ScratchFolder {
+  public:
+    explicit ScratchFolder(const std::filesystem::path& base);
+    ~ScratchFolder();
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    const std::filesystem::path& path() const { return path_; }
+
+  private:
+    std::filesystem::path path_;
+};
+
+// /dev/shm where it exists, so that a flush before a rename waits for no disk (the tools
+// the runs are set against wait for none); else the temporary folder.
+std::filesystem::path DefaultWorkBase();
+
+template <typename Step>
+double Milliseconds(Step step) {
+    const auto start = std::chrono::steady_clock::now();
+    step();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+        .count();
+}
+
+double Median(std::vector<double> times);
+
+std::string ShellQuoted(const std::string& text);
+
+// Runs `command` by the shell with LC_ALL=C; throws when its exit status is not 0.
+void RunShell(const std::string& command);
+
+// The folder that holds every hundredth entry of a SparseFolderCatalogue, and the one that
+// holds the entries it had from the generator.
+inline constexpr const char* kSparseFolderId = "00000001";
+inline constexpr const char* kOtherFolderId = "00000002";
+
+// A generated catalogue of `entries` entries over entries / 500 folders whose folder
+// kSparseFolderId holds every hundredth entry and no other. Made once into `folder` as
+// locked_Nk.zvx and reused afterwards (the locked-apply benchmark makes the same files).
+std::filesystem::path SparseFolderCatalogue(const std::filesystem::path& folder, uint64_t entries);
+
+// The entry lines of the folder, in file order.
+std::vector<std::string> FolderRows(const std::filesystem::path& catalogue,
+                                    const std::string& folderId);
+
+}  // namespace zvx::bench
