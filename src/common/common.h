@@ -71,6 +71,9 @@ class Common {
     bool ExpandAfterRefresh = false;
     // A path LoadDoc takes instead of showing its dialog.
     std::string pendingDocument;
+    // The device the executer tries a missing file on first (redirectDevice): empty at
+    // the start, kept for the rest of the program's run once a person chose to.
+    std::string redirectDevice;
     // Start folders of the file dialogs (lastsavepath, lastloadpath, lastaddpath).
     std::string lastSavePath;
     std::string lastLoadPath;

@@ -45,6 +45,8 @@ constexpr std::array kCommandNames{
     CommandName{"editmnu0", "entry_editsel", Command::EntryEditSelected},
     CommandName{"editmnu1", "entry_editall", Command::EntryEditAll},
     CommandName{"reportstylemnu0", "document_view_savecols", Command::ViewSaveColumns},
+    CommandName{"foldermnu10", "entry_execute", Command::EntryExecute},
+    CommandName{"exemnu01", "search_results_execute", Command::SearchResultsExecute},
 };
 
 struct PrefixCommand {

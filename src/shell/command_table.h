@@ -47,6 +47,8 @@ enum class Command {
     EntryEditSelected,
     EntryEditAll,
     ViewSaveColumns,
+    EntryExecute,
+    SearchResultsExecute,
     RecentFile,     // the argument is the rest of the name: the number of the menu entry
     ColumnSetting,  // the argument is the number of the column-setting menu entry
 };

@@ -1,5 +1,6 @@
 #include "shell/frmMain.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
@@ -13,6 +14,7 @@
 #include "common/common.h"
 #include "document/frmDocument.h"
 #include "document/list_appearance.h"
+#include "launch/ZVXPlay01.h"
 #include "shell/cleanup_window.h"
 #include "shell/column_setting_name.h"
 #include "shell/command_file.h"
@@ -134,6 +136,10 @@ void frmMain::runCommand(const ResolvedCommand& resolved) {
         case Command::ViewSaveColumns:
             saveColumnSetting();
             break;
+        case Command::EntryExecute:
+        case Command::SearchResultsExecute:
+            executeEntries();
+            break;
         case Command::None:
             break;
         default:
@@ -144,6 +150,22 @@ void frmMain::runCommand(const ResolvedCommand& resolved) {
 
 frmDocument* frmMain::activeDocument() const {
     return dynamic_cast<frmDocument*>(activeView());
+}
+
+QWidget* frmMain::activeForm() const {
+    // A window of its own in front counts when it has a list; the splash, say, has none.
+    QWidget* front = QApplication::activeWindow();
+    if (front && front != this && front->findChild<QAbstractItemView*>("ListView1"))
+        return front;
+    QMdiSubWindow* child = mdi_->currentSubWindow();
+    return child ? child->widget() : nullptr;
+}
+
+void frmMain::executeEntries() {
+    QWidget* form = activeForm();
+    ZVXPlay01 window(common_, form ? form->findChild<QAbstractItemView*>("ListView1") : nullptr,
+                     desktop_, this);
+    window.exec();
 }
 
 // The commands that act on the active document window.

@@ -92,6 +92,13 @@ class frmMain : public QMainWindow, public DocumentWindows {
   private:
     void buildMenus();
     frmDocument* activeDocument() const;
+    // The active window: a window with a list of its own when it is the one in front,
+    // otherwise the active child window (a document or the search window); null when
+    // there is none.
+    QWidget* activeForm() const;
+    // entry_execute and search_results_execute: the executer over ListView1 of the
+    // active window.
+    void executeEntries();
     void runCommand(const ResolvedCommand& resolved);
     void documentCommand(Command command);
     void unloadOtherWindows();

@@ -81,6 +81,8 @@ void frmMain::buildMenus() {
     addEntry(copyMove, "copymovemnu0", "&Copy To...", "edit-copy");
     addEntry(copyMove, "copymovemnu1", "&Move To...", "edit-cut");
     addEntry(entries, "foldermnu7", "&Delete", "edit-delete");
+    entries->addSeparator();
+    addEntry(entries, "foldermnu10", "E&xecute", "system-run");
 
     QMenu* folders = menuBar()->addMenu("F&older");
     folderMenu_ = folders;
@@ -94,6 +96,12 @@ void frmMain::buildMenus() {
     addEntry(folders, "expandmnu1", "&Collapse Selected");
     addEntry(folders, "expandmnu2", "Expand &All");
     addEntry(folders, "expandmnu3", "Collapse A&ll");
+
+    // The search window's results; on only while that window is in front, when the
+    // document menus are off.
+    QMenu* results = menuBar()->addMenu("&Results");
+    results->menuAction()->setObjectName("exemnuTOP");
+    addEntry(results, "exemnu01", "&Execute", "system-run");
 
     QMenu* windows = menuBar()->addMenu("&Window");
     windows->setObjectName("mnuwinTOP");
@@ -151,6 +159,8 @@ void frmMain::CheadRefresh() {
 
 void frmMain::RealMenuSelectionizer() {
     frmDocument* document = activeDocument();
+    const QWidget* form = activeForm();
+    menuEntry("exemnu01")->setEnabled(form && form->objectName() == "searcher");
     const int style = document ? document->listStyle() : -1;
     menuEntry("viewmnu0")->setChecked(document && document->SubViewIng());
     menuEntry("viewmnu4")->setChecked(style == kListStyle);

@@ -21,7 +21,6 @@
 #include "document/frmDocument.h"
 #include "shell/frmMain.h"
 #include "shell/main_sequence.h"
-#include "ui/desktop.h"
 #include "ui/zvx_application.h"
 
 namespace zvx::test {
@@ -31,11 +30,6 @@ namespace {
 // A step that waits longer than this is stuck: the program never showed what it needs.
 constexpr qint64 kStepLimitMs = 30000;
 constexpr int kTickMs = 5;
-
-class NoDesktop : public Desktop {
-  public:
-    bool openUrl(const QUrl&) override { return true; }
-};
 
 MsgAnswer CautiousAnswer(MsgButtons buttons) {
     switch (buttons) {
@@ -198,7 +192,6 @@ int Journey::run(const std::string& commandLine) {
         });
     });
     driver.start();
-    NoDesktop desktop;
     SystemClock clock;
     auto* app = static_cast<ZvxApplication*>(QApplication::instance());
     const int code =

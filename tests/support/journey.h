@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "support/temp_folder.h"
+#include "ui/desktop.h"
 #include "ui/qt_screen.h"
 
 namespace zvx {
@@ -68,6 +69,16 @@ class JourneyScreen : public QtScreen {
     std::deque<Expected> script_;
 };
 
+// The desktop of a journey: what the program asked it to open, and nothing opened.
+class RecordingDesktop : public Desktop {
+  public:
+    bool openUrl(const QUrl& url) override {
+        opened.push_back(url);
+        return true;
+    }
+    std::vector<QUrl> opened;
+};
+
 class Journey {
   public:
     // A fresh application folder, named to the program by ZVX_HOME.
@@ -93,6 +104,7 @@ class Journey {
     std::vector<std::string> temporaryFiles() const;
 
     JourneyScreen screen;
+    RecordingDesktop desktop;
 
   private:
     struct Step {

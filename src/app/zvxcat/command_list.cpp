@@ -7,12 +7,12 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 19> AllCommands() {
-    return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(), &LsCommand(),
-            &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),    &MvdirCommand(),
-            &RenameCommand(),  &TagsCommand(),  &ScanCommand(),     &AddCommand(),
-            &AddTreeCommand(), &SetCommand(),   &EditCommand(),     &CpCommand(),
-            &MvCommand(),      &RmCommand(),    &ExtensionsCommand()};
+std::array<const Command*, 20> AllCommands() {
+    return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(),   &LsCommand(),
+            &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),      &MvdirCommand(),
+            &RenameCommand(),  &TagsCommand(),  &ScanCommand(),       &AddCommand(),
+            &AddTreeCommand(), &SetCommand(),   &EditCommand(),       &CpCommand(),
+            &MvCommand(),      &RmCommand(),    &ExtensionsCommand(), &OpenCommand()};
 }
 
 }  // namespace
