@@ -12,6 +12,7 @@
 
 #include "common/common.h"
 #include "common/summary_text.h"
+#include "document/column_header.h"
 #include "document/column_layout.h"
 #include "document/entry_list_model.h"
 #include "document/frmDocument.h"
@@ -19,10 +20,6 @@
 #include "platform/file_error.h"
 
 namespace zvx {
-
-namespace {
-constexpr int kColumnWidth = 100;
-}
 
 void frmDocument::buildList() {
     model_ = new EntryListModel(common_.settings, this);
@@ -146,28 +143,12 @@ void frmDocument::loadColumnSetting(const std::string& name) {
     } catch (const FileError&) {
         return;  // a missing layout leaves the columns as they are
     }
-    QHeaderView* header = ListView1_->header();
-    const std::vector<int>& order = layout.order();
-    for (size_t position = 0; position < order.size(); ++position) {
-        const int logical = order[position] - 1;
-        header->moveSection(header->visualIndex(logical), static_cast<int>(position));
-        const int width = layout.width(order[position]);
-        header->setSectionHidden(logical, width == 0);
-        if (width > 0)
-            header->resizeSection(logical, width);
-    }
+    ApplyColumnLayout(ListView1_->header(), layout);
     sort_ = layout.sort;
 }
 
 void frmDocument::saveColumnSetting(const std::string& name) {
-    QHeaderView* header = ListView1_->header();
-    ListLayout layout(kListColumnCount, kColumnWidth);
-    for (int visual = 0; visual < kListColumnCount; ++visual) {
-        const int column = header->logicalIndex(visual) + 1;
-        layout.setPosition(column, visual + 1);
-        layout.setWidth(column,
-                        header->isSectionHidden(column - 1) ? 0 : header->sectionSize(column - 1));
-    }
+    ListLayout layout = HeaderColumnLayout(ListView1_->header());
     layout.sort = sort_;
     SaveColumnSetting(common_, layout, name, false);
 }

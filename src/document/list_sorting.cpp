@@ -1,6 +1,7 @@
 #include "document/list_sorting.h"
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -14,10 +15,10 @@ namespace {
 // The sort texts of all rows, upper-cased, back to back in one buffer.
 class SortTexts {
   public:
-    SortTexts(const EntryRows& rows, int column, const LoadedSettings& settings) {
-        ends_.reserve(rows.size());
-        for (size_t row = 0; row < rows.size(); ++row) {
-            appendUpper(DisplayText(rows.line(row), column, settings));
+    SortTexts(size_t count, const std::function<std::string(size_t)>& textOf) {
+        ends_.reserve(count);
+        for (size_t row = 0; row < count; ++row) {
+            appendUpper(textOf(row));
             ends_.push_back(bytes_.size());
         }
     }
@@ -68,11 +69,19 @@ void ColumnClick(ListSort& sort, int columnIndex) {
 
 std::vector<uint32_t> SortedRowOrder(const EntryRows& rows, const ListSort& sort,
                                      const LoadedSettings& settings) {
-    const SortTexts texts(rows, sort.SortKey + 1, settings);
-    std::vector<SortItem> items(rows.size());
+    return SortedRowOrder(
+        rows.size(),
+        [&](size_t row) { return DisplayText(rows.line(row), sort.SortKey + 1, settings); },
+        sort.SortOrder);
+}
+
+std::vector<uint32_t> SortedRowOrder(size_t count, const std::function<std::string(size_t)>& textOf,
+                                     int sortOrder) {
+    const SortTexts texts(count, textOf);
+    std::vector<SortItem> items(count);
     for (uint32_t row = 0; row < items.size(); ++row)
         items[row] = {Prefix(texts.text(row), 0), Prefix(texts.text(row), 8), row};
-    const bool descending = sort.SortOrder == kSortDescending;
+    const bool descending = sortOrder == kSortDescending;
     // Rows of equal texts keep their file order in both directions.
     std::sort(items.begin(), items.end(), [&](const SortItem& a, const SortItem& b) {
         if (a.high != b.high)

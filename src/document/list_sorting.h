@@ -2,7 +2,10 @@
 // Sorting of an entry list by a column header click. The list sorts the texts its rows
 // show, which is why sizes are zero-padded.
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "common/loaded_settings.h"
@@ -30,5 +33,10 @@ void ColumnClick(ListSort& sort, int columnIndex);
 // file order.
 std::vector<uint32_t> SortedRowOrder(const EntryRows& rows, const ListSort& sort,
                                      const LoadedSettings& settings);
+
+// The same order for any list: `count` rows whose texts in the sorted column `textOf`
+// gives, in the order kSortAscending or kSortDescending.
+std::vector<uint32_t> SortedRowOrder(size_t count, const std::function<std::string(size_t)>& textOf,
+                                     int sortOrder);
 
 }  // namespace zvx
