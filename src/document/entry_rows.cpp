@@ -81,16 +81,12 @@ std::string_view EntryItem(std::string_view line, int field) {
     return last;
 }
 
-std::string DisplayText(std::string_view line, int column, const LoadedSettings& settings) {
-    const std::string_view value = EntryItem(line, column);
+std::string ValueDisplayText(std::string_view value, int column, const LoadedSettings& settings) {
     switch (column) {
         case 2:
             return SizeText(value);
         case 5:
             return value == "1" ? "Yes" : "No";
-        case 8:
-            return std::string(
-                IconFromContentType(EntryItem(line, 1), value, settings).contentType);
         case 15:
             return TrackText(value, settings);
         case 16:
@@ -104,6 +100,13 @@ std::string DisplayText(std::string_view line, int column, const LoadedSettings&
         default:
             return std::string(value);
     }
+}
+
+std::string DisplayText(std::string_view line, int column, const LoadedSettings& settings) {
+    if (column == 8)
+        return std::string(
+            IconFromContentType(EntryItem(line, 1), EntryItem(line, 8), settings).contentType);
+    return ValueDisplayText(EntryItem(line, column), column, settings);
 }
 
 int EntryIcon(std::string_view line, const LoadedSettings& settings) {

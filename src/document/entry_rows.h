@@ -35,6 +35,8 @@ std::string_view EntryItem(std::string_view line, int field);
 //   22 Mode     "n/a" when empty;
 //   the others  as stored.
 std::string DisplayText(std::string_view line, int column, const LoadedSettings& settings);
+// The same rules for a stored value alone; Content-Type (8) shows it as stored.
+std::string ValueDisplayText(std::string_view value, int column, const LoadedSettings& settings);
 
 // The index of the row's icon in the entry list's image list, from its name and its
 // stored content type (IconFromContentType).
