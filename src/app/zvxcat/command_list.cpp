@@ -7,12 +7,13 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 20> AllCommands() {
-    return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(),   &LsCommand(),
-            &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),      &MvdirCommand(),
-            &RenameCommand(),  &TagsCommand(),  &ScanCommand(),       &AddCommand(),
-            &AddTreeCommand(), &SetCommand(),   &EditCommand(),       &CpCommand(),
-            &MvCommand(),      &RmCommand(),    &ExtensionsCommand(), &OpenCommand()};
+std::array<const Command*, 21> AllCommands() {
+    return {&NewCommand(),     &InfoCommand(),  &SettingsCommand(), &LsCommand(),
+            &FoldersCommand(), &MkdirCommand(), &RmdirCommand(),    &MvdirCommand(),
+            &RenameCommand(),  &TagsCommand(),  &ScanCommand(),     &AddCommand(),
+            &AddTreeCommand(), &SetCommand(),   &EditCommand(),     &CpCommand(),
+            &MvCommand(),      &RmCommand(),    &SearchCommand(),   &ExtensionsCommand(),
+            &OpenCommand()};
 }
 
 }  // namespace
@@ -32,7 +33,8 @@ void PrintToolHelp(std::ostream& out) {
     for (const Command* command : AllCommands()) {
         out << "  " << std::left << std::setw(12) << command->name << command->summary << "\n";
     }
-    out << "\nExit status: 0 success, 1 failure, 2 wrong use.\n";
+    out << "\nExit status: 0 success, 1 failure, 2 wrong use, 3 a search that outgrew its\n"
+           "limits.\n";
 }
 
 void PrintCommandHelp(const Command& command, std::ostream& out) {

@@ -26,6 +26,7 @@ const Command& MvCommand();
 const Command& RmCommand();
 const Command& SetCommand();
 const Command& EditCommand();
+const Command& SearchCommand();
 const Command& OpenCommand();
 const Command& ExtensionsCommand();
 

@@ -1,6 +1,7 @@
 // zvxcat COMMAND [ARGUMENTS]: finds the command, checks its arguments, sets up the
-// process and runs it. Exit status 0 on success, 1 on failure, 2 on wrong use; any
-// failure, whatever was thrown, ends with a message and status 1.
+// process and runs it. Exit status 0 on success, 1 on failure, 2 on wrong use, 3 on a
+// search that outgrew its limits; any failure, whatever was thrown, ends with a message
+// and status 1.
 
 #include <unistd.h>
 
@@ -12,6 +13,7 @@
 #include "command_list.h"
 #include "console_screen.h"
 #include "fatal_error.h"
+#include "finding/search_words.h"
 #include "tool_session.h"
 
 namespace {
@@ -19,6 +21,8 @@ namespace {
 using namespace zvx::cat;
 
 constexpr int kExitUsage = 2;
+// A search that outgrew its fixed tables ends as the window program does, with a message.
+constexpr int kExitFatal = 3;
 
 int RunCommand(const Command& command, const std::vector<std::string>& args) {
     Arguments arguments = ParseArguments(args, command.flags);
@@ -59,6 +63,9 @@ int Main(const std::vector<std::string>& args) {
         return RunCommand(*command, {args.begin() + 1, args.end()});
     } catch (const UsageError& e) {
         return UsageFailure(std::string(command->name) + ": " + e.what(), command);
+    } catch (const zvx::SearchOverflow& e) {
+        std::cerr << "zvxcat: " << e.what() << "\n";
+        return kExitFatal;
     }
 }
 
