@@ -74,6 +74,9 @@ class Common {
     // The device the executer tries a missing file on first (redirectDevice): empty at
     // the start, kept for the rest of the program's run once a person chose to.
     std::string redirectDevice;
+    // searchSplitMode: the search window prepares the sub-tree and the folder of the
+    // selected node as well, not only the whole catalogue.
+    bool searchSplitMode = false;
     // Start folders of the file dialogs (lastsavepath, lastloadpath, lastaddpath).
     std::string lastSavePath;
     std::string lastLoadPath;

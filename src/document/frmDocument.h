@@ -95,6 +95,20 @@ class frmDocument : public QWidget, public DocumentView {
     void movemnumnu_Click();
     void remdelmnumnu_Click();
 
+    // The search window on this document (document_find): searchSplitMode cleared, the
+    // search files prepared, then the window shown on this document's caption through
+    // onSearch, which the main window installs.
+    void searchmnu_Click();
+    std::function<void(const std::string&)> onSearch;
+    // Prepares the search files from the working copy, the split mode and the selected
+    // folder. Pending edits of the editor are written first, so the search sees them.
+    void SearchInit();
+    // A jump from the search window: the first folder whose FullPath and "\" are
+    // `folderText` is selected and listed, the rows whose tag is `tag` are selected and
+    // the first of them shown, and an editor on show goes to the selected entries.
+    // False, with nothing done, when no folder fits.
+    bool showSearchHit(std::string_view folderText, std::string_view tag);
+
     // View: sub-view, list style (0 large icons, 1 small icons, 2 list, 3 report) and
     // column settings.
     bool SubViewIng() const { return subViewing_; }

@@ -33,6 +33,7 @@ constexpr std::array kCommandNames{
     CommandName{"expandmnu1", "folder_collapsesel", Command::FolderCollapseSel},
     CommandName{"expandmnu2", "folder_expandall", Command::FolderExpandAll},
     CommandName{"expandmnu3", "folder_collapseall", Command::FolderCollapseAll},
+    CommandName{"foldermnu0", "document_find", Command::DocumentFind},
     CommandName{"viewmnu0", "document_view_subview", Command::ViewSubView},
     CommandName{"viewmnu4", "document_view_list", Command::ViewList},
     CommandName{"viewmnu2", "document_view_smallicon", Command::ViewSmallIcons},

@@ -36,6 +36,7 @@ enum class Command {
     FolderCollapseSel,
     FolderExpandAll,
     FolderCollapseAll,
+    DocumentFind,
     ViewSubView,
     ViewList,
     ViewSmallIcons,

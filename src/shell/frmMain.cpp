@@ -14,6 +14,7 @@
 #include "common/common.h"
 #include "document/frmDocument.h"
 #include "document/list_appearance.h"
+#include "finding/searcher.h"
 #include "launch/ZVXPlay01.h"
 #include "shell/cleanup_window.h"
 #include "shell/column_setting_name.h"
@@ -57,7 +58,7 @@ frmMain::frmMain(Common& common, Desktop& desktop, const Clock& clock)
     buildMenus();
     buildToolBars();
     buildStatusBar();
-    connect(mdi_, &QMdiArea::subWindowActivated, this, [this] { updateDocumentState(); });
+    connect(mdi_, &QMdiArea::subWindowActivated, this, &frmMain::subWindowActivated);
 }
 
 frmMain::~frmMain() {
@@ -247,25 +248,76 @@ void frmMain::documentCommand(Command command) {
         case Command::EntryDelete:
             document->remdelmnumnu_Click();
             break;
+        case Command::DocumentFind:
+            document->searchmnu_Click();
+            break;
         default:
             break;
     }
     RealMenuSelectionizer();
 }
 
+// The column settings apply to the list of the active window, a document's or the
+// search window's.
 void frmMain::loadColumnSetting(const std::string& number) {
     QAction* entry = menuEntry(QString::fromStdString("chset" + number));
-    frmDocument* document = activeDocument();
-    if (entry && document)
-        document->loadColumnSetting(FromQString(entry->data().toString()));
+    if (!entry)
+        return;
+    const std::string name = FromQString(entry->data().toString());
+    if (frmDocument* document = activeDocument())
+        document->loadColumnSetting(name);
+    else if (searcher* window = activeSearcher())
+        window->loadColumnSetting(name);
 }
 
 void frmMain::saveColumnSetting() {
     frmDocument* document = activeDocument();
-    if (!document)
+    searcher* window = activeSearcher();
+    if (!document && !window)
         return;
-    document->saveColumnSetting(AskColumnSettingName(common_));
+    const std::string name = AskColumnSettingName(common_);
+    if (document)
+        document->saveColumnSetting(name);
+    else
+        window->saveColumnSetting(name);
     CheadRefresh();
+}
+
+searcher* frmMain::activeSearcher() const {
+    QMdiSubWindow* window = mdi_->currentSubWindow();
+    return window ? qobject_cast<searcher*>(window->widget()) : nullptr;
+}
+
+void frmMain::showSearcher(const std::string& caption) {
+    if (!searcher_) {
+        searcher_ = new searcher(common_, lifecycle_->table());
+        searcher_->onActivated = [this] { disableDocumentMenus(); };
+        searcher_->onSummary = [this](const std::string& text) { setSummary(ToQString(text)); };
+        searcher_->coreCalls = [this](const std::string& name) { ZVXCoreCalls(name); };
+        searcher_->onListPopup = [this](const QPoint& at) {
+            if (auto* popup = findChild<QMenu*>("viewrootmnu0"))
+                popup->popup(at);
+        };
+        QMdiSubWindow* window = mdi_->addSubWindow(searcher_);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setWindowIcon(ThemeIcon("edit-find"));
+    }
+    searcher_->docucache();
+    searcher_->setSource(caption);
+    auto* window = qobject_cast<QMdiSubWindow*>(searcher_->parentWidget());
+    window->show();
+    mdi_->setActiveSubWindow(window);
+}
+
+// Activation of a child window: the menus follow it, and the search window prepares
+// its search anew, so that it sees the documents as they are now.
+void frmMain::subWindowActivated(QMdiSubWindow* window) {
+    updateDocumentState();
+    if (!window || window == lastActivated_)
+        return;
+    lastActivated_ = window;
+    if (searcher* activated = qobject_cast<searcher*>(window->widget()))
+        activated->Form_Activate();
 }
 
 void frmMain::AskQuit() {
@@ -323,6 +375,7 @@ DocumentView* frmMain::createView(const std::string& caption) {
     document->coreCalls = [this](const std::string& name) { ZVXCoreCalls(name); };
     document->onFolderPopup = [this](const QPoint& at) { folderMenu_->popup(at); };
     document->onEntryPopup = [this](const QPoint& at) { entryMenu_->popup(at); };
+    document->onSearch = [this](const std::string& caption) { showSearcher(caption); };
     document->menuEnabled = [this](const std::string& key) {
         QAction* entry = menuEntry(QString::fromStdString(key));
         return entry && entry->isEnabled();

@@ -3,6 +3,7 @@
 // status bar and the timers. Every command arrives here by name at ZVXCoreCalls.
 
 #include <QMainWindow>
+#include <QPointer>
 #include <functional>
 #include <memory>
 #include <string>
@@ -18,6 +19,7 @@
 class QAction;
 class QLabel;
 class QMdiArea;
+class QMdiSubWindow;
 class QMenu;
 class QProgressBar;
 class QTimer;
@@ -31,6 +33,7 @@ class Desktop;
 class NewsPanel;
 class frmDocument;
 class frmSplash;
+class searcher;
 
 class frmMain : public QMainWindow, public DocumentWindows {
     Q_OBJECT
@@ -62,6 +65,12 @@ class frmMain : public QMainWindow, public DocumentWindows {
     void RealMenuSelectionizer();
     void barmenustate();
     void RealSelectionizer(const SelectionState& state, bool keepFolderItems);
+    // The document menus off and the tool bar as with no document: while the search
+    // window is in front no document command can run.
+    void disableDocumentMenus();
+    // searchmnu_Click's window: "Search ZVX", made on first use, refilled and shown on
+    // the document of this caption.
+    void showSearcher(const std::string& caption);
     // Applies the active document's selection to menus and tool bar (none: all off), and
     // its view to the view menu's checks.
     void updateDocumentState();
@@ -91,6 +100,8 @@ class frmMain : public QMainWindow, public DocumentWindows {
 
   private:
     void buildMenus();
+    searcher* activeSearcher() const;
+    void subWindowActivated(QMdiSubWindow* window);
     frmDocument* activeDocument() const;
     // The active window: a window with a list of its own when it is the one in front,
     // otherwise the active child window (a document or the search window); null when
@@ -125,6 +136,10 @@ class frmMain : public QMainWindow, public DocumentWindows {
     std::unique_ptr<DocumentLifecycle> lifecycle_;
     std::unique_ptr<class CommandFilePoll> poll_;
     QMdiArea* mdi_;
+    QPointer<searcher> searcher_;
+    // The child window activated last: a window's activation counts only when it comes
+    // from another child window, not back from a dialog or another program.
+    QPointer<QMdiSubWindow> lastActivated_;
     NewsPanel* news_;
     QMenu* fileMenu_ = nullptr;
     QMenu* columnMenu_ = nullptr;

@@ -68,6 +68,8 @@ void frmMain::buildMenus() {
     QMenu* entries = menuBar()->addMenu("&Entry");
     entryMenu_ = entries;
     entries->menuAction()->setObjectName("foldermnuTOP");
+    addEntry(entries, "foldermnu0", "&Find...", "edit-find", QKeySequence::Find);
+    entries->addSeparator();
     QMenu* add = entries->addMenu("&Add");
     add->setObjectName("addmnu");
     addEntry(add, "addmnu0", "&Wizard...", "drive-harddisk");
@@ -160,8 +162,10 @@ void frmMain::CheadRefresh() {
 void frmMain::RealMenuSelectionizer() {
     frmDocument* document = activeDocument();
     const QWidget* form = activeForm();
-    menuEntry("exemnu01")->setEnabled(form && form->objectName() == "searcher");
-    const int style = document ? document->listStyle() : -1;
+    const bool searching = form && form->objectName() == "searcher";
+    menuEntry("exemnu01")->setEnabled(searching);
+    // The search window's list always shows the report style.
+    const int style = document ? document->listStyle() : searching ? kReportStyle : -1;
     menuEntry("viewmnu0")->setChecked(document && document->SubViewIng());
     menuEntry("viewmnu4")->setChecked(style == kListStyle);
     menuEntry("viewmnu2")->setChecked(style == kSmallIconStyle);

@@ -97,14 +97,19 @@ void frmMain::RealSelectionizer(const SelectionState& state, bool keepFolderItem
     }
 }
 
+void frmMain::disableDocumentMenus() {
+    for (const char* key :
+         {"foldermnuTOP", "pathmnuTOP", "mnufile2", "mnufile3", "mnufile4", "mnufile5"})
+        if (QAction* entry = menuEntry(key))
+            entry->setEnabled(false);
+    RealSelectionizer(kNoDocumentState, false);
+}
+
 void frmMain::updateDocumentState() {
     RealMenuSelectionizer();
     frmDocument* document = activeDocument();
     if (!document) {
-        for (const char* key : {"foldermnuTOP", "pathmnuTOP", "mnufile2", "mnufile3", "mnufile4"})
-            if (QAction* entry = menuEntry(key))
-                entry->setEnabled(false);
-        RealSelectionizer(kNoDocumentState, false);
+        disableDocumentMenus();
         return;
     }
     SelectionUpdate update = selecTionIzer(document->selectionFacts(), false, false);
