@@ -7,6 +7,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTreeView>
 #include <QTreeWidget>
 
@@ -81,6 +82,13 @@ TEST_F(SearcherWindowTest, TheCounterAndTheRowsOfASearchAndOfARemoval) {
     EXPECT_EQ(Cell(window, 0, 0), "a.mp3");
     EXPECT_EQ(Cell(window, 1, 0), "b.mp3");
     search(window, "rock.mp3");
+    EXPECT_EQ(Counter(window), "Found: 1 Entry");
+    // The split sources of the selected folder "Music": its sub-tree, then itself.
+    window.findChild<QRadioButton*>("Option2")->click();
+    search(window, "mp3");
+    EXPECT_EQ(Counter(window), "Found: 3 Entries");
+    window.findChild<QRadioButton*>("Option3")->click();
+    search(window, "mp3");
     EXPECT_EQ(Counter(window), "Found: 1 Entry");
 
     // A removal from an empty list does nothing: no result file is made anew.
