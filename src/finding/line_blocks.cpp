@@ -1,8 +1,10 @@
 #include "finding/line_blocks.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -13,15 +15,28 @@ namespace zvx {
 namespace {
 
 constexpr size_t kBlockSize = size_t(4) << 20;
+constexpr size_t kSmallBlock = 4096;
+
+// A block, or less for a small file, whose reading would cost less than clearing a
+// whole block; one byte more than the file holds reaches its end at the first read.
+size_t FirstBlockSize(int fd, uint64_t offset) {
+    struct stat info;
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))
+        return kBlockSize;
+    const uint64_t size = static_cast<uint64_t>(info.st_size);
+    const uint64_t left = size > offset ? size - offset : 0;
+    return static_cast<size_t>(std::clamp<uint64_t>(left + 1, kSmallBlock, kBlockSize));
+}
 
 }  // namespace
 
 LineBlocks::LineBlocks(const std::filesystem::path& path, uint64_t offset)
-    : path_(path), buffer_(kBlockSize), filePos_(offset) {
+    : path_(path), filePos_(offset) {
     fd_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (fd_ < 0)
         ThrowFileError("Cannot open", path);
     ::posix_fadvise(fd_, 0, 0, POSIX_FADV_SEQUENTIAL);
+    buffer_.resize(FirstBlockSize(fd_, offset));
 }
 
 LineBlocks::~LineBlocks() {
