@@ -12,6 +12,7 @@
 #include "finding/result_row.h"
 #include "finding/search_preparation.h"
 #include "finding/search_run.h"
+#include "finding/searcher_rules.h"
 #include "folder_command_support.h"
 #include "platform/file_io.h"
 #include "platform/line_reader.h"
@@ -21,19 +22,10 @@ namespace zvx::cat {
 
 namespace {
 
-struct Comparison {
-    std::string_view word;
-    std::string_view text;
-};
-// The comparisons in Combo2's order: the number is the place plus one.
-constexpr std::array<Comparison, 8> kComparisons = {{{"contains", "Contains"},
-                                                     {"not-contains", "Does Not Contain"},
-                                                     {"is", "Is"},
-                                                     {"is-not", "Is NOT"},
-                                                     {"gt", "Is More Than"},
-                                                     {"ge", "Is More/Equals Than"},
-                                                     {"lt", "Is Less Than"},
-                                                     {"le", "Is Less/Equals Than"}}};
+// The words of --cmp, in the order of the comparisons' texts: the number is the place
+// plus one.
+constexpr std::array<std::string_view, 8> kComparisonWords = {
+    "contains", "not-contains", "is", "is-not", "gt", "ge", "lt", "le"};
 
 int FieldOption(const Arguments& arguments) {
     const std::string* text = arguments.value("--field");
@@ -50,8 +42,8 @@ int ComparisonOption(const Arguments& arguments) {
     const std::string* text = arguments.value("--cmp");
     if (!text)
         return 1;
-    for (size_t i = 0; i < kComparisons.size(); ++i) {
-        if (*text == kComparisons[i].word || TextEquals(*text, kComparisons[i].text))
+    for (size_t i = 0; i < kComparisonWords.size(); ++i) {
+        if (*text == kComparisonWords[i] || TextEquals(*text, kComparisonTexts[i]))
             return static_cast<int>(i) + 1;
     }
     throw UsageError("--cmp takes contains, not-contains, is, is-not, gt, ge, lt or le, not '" +
