@@ -12,107 +12,35 @@
 // catalogue shows. Exits with 1 when the 1,000,000-entry run takes more than twice `cp`,
 // or when a run did not change every row.
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
-#include <system_error>
 #include <vector>
 
-#include "catalogue_generator.h"
+#include "bench_support.h"
 #include "common/common.h"
 #include "document/editor_apply.h"
 #include "platform/file_io.h"
 #include "quiet_screen.h"
 #include "store/entry_line.h"
-#include "store/entry_offset.h"
-#include "store/folder_listing.h"
 
 namespace {
 
 namespace fs = std::filesystem;
+using zvx::bench::Median;
+using zvx::bench::Milliseconds;
+using zvx::bench::ShellQuoted;
 
 constexpr double kTarget = 2.0;
 constexpr int kRounds = 9;
-constexpr uint64_t kEntriesPerRow = 100;
-constexpr const char* kFolderId = "00000001";
-constexpr const char* kOtherId = "00000002";
 constexpr const char* kAlbum = "Locked Album";
 
-class ScratchFolder {
-  public:
-    explicit ScratchFolder(const fs::path& base) {
-        std::string pattern = (base / "zvx-lockbench-XXXXXX").string();
-        if (!mkdtemp(pattern.data()))
-            throw std::runtime_error("cannot make a temporary folder");
-        path_ = pattern;
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-    const fs::path& path() const { return path_; }
-
-  private:
-    fs::path path_;
-};
-
-template <typename Step>
-double Milliseconds(Step step) {
-    const auto start = std::chrono::steady_clock::now();
-    step();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-        .count();
-}
-
-std::string ShellQuoted(const std::string& text) {
-    std::string quoted = "'";
-    for (char c : text)
-        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return quoted + "'";
-}
-
-double Median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
-
-// A generated catalogue in which every hundredth entry belongs to folder 00000001 and
-// none other does (its own entries go to 00000002). The IDs keep their length, so the
-// entry offset stays right.
-fs::path CatalogueOf(uint64_t entries) {
-    const fs::path file =
-        fs::path(ZVX_BENCH_FOLDER) / ("locked_" + std::to_string(entries / 1000) + "k.zvx");
-    if (fs::exists(file))
-        return file;
-    const fs::path generated = file.string() + ".generated";
-    zvx::bench::GenerateCatalogue(generated, {.entries = entries, .folders = entries / 500});
-    std::string bytes = zvx::ReadFileBytes(generated, 0, zvx::FileLength(generated));
-    size_t at = zvx::ReadEntryOffset(generated) - 1;
-    for (uint64_t number = 0; at < bytes.size(); ++number) {
-        if (number % kEntriesPerRow == 0)
-            bytes.replace(at, 8, kFolderId);
-        else if (bytes.compare(at, 8, kFolderId) == 0)
-            bytes.replace(at, 8, kOtherId);
-        at = bytes.find('\n', at);
-        at = at == std::string::npos ? bytes.size() : at + 1;
-    }
-    zvx::WriteEmptyFile(generated);
-    zvx::WriteFileBytes(generated, 0, bytes);
-    fs::rename(generated, file);
-    return file;
-}
-
 std::vector<std::string> FolderRows(const fs::path& cfn) {
-    std::vector<std::string> rows;
-    zvx::ListFolderEntries(cfn, kFolderId, [&](std::string_view line) { rows.emplace_back(line); });
-    return rows;
+    return zvx::bench::FolderRows(cfn, zvx::bench::kSparseFolderId);
 }
 
 void ApplyLockedAlbum(zvx::Common& common, const fs::path& cfn,
@@ -179,11 +107,6 @@ void Report(const Measurement& m) {
                 kTarget);
 }
 
-fs::path DefaultWorkBase() {
-    std::error_code ec;
-    return fs::is_directory("/dev/shm", ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -192,10 +115,12 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        ScratchFolder scratch(argc == 2 ? fs::path(argv[1]) : DefaultWorkBase());
+        zvx::bench::ScratchFolder scratch(argc == 2 ? fs::path(argv[1])
+                                                    : zvx::bench::DefaultWorkBase());
         std::vector<Measurement> all;
         for (uint64_t entries : {100000ULL, 1000000ULL}) {
-            all.push_back(Measure(CatalogueOf(entries), entries, scratch.path()));
+            all.push_back(Measure(zvx::bench::SparseFolderCatalogue(ZVX_BENCH_FOLDER, entries),
+                                  entries, scratch.path()));
             Report(all.back());
         }
         const Measurement& small = all.front();
