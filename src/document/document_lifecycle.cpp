@@ -32,8 +32,10 @@ Document* DocumentLifecycle::active() {
     return find(windows_.activeView());
 }
 
+// The search window in front leaves the document behind it the active one here, so that
+// its result files' header fix-up marks that document changed.
 void DocumentLifecycle::markActiveChanged() {
-    if (Document* document = active())
+    if (Document* document = find(windows_.lastActiveView()))
         document->aender = true;
 }
 

@@ -36,6 +36,9 @@ class DocumentWindows {
     virtual void closeView(DocumentView* view) = 0;
     // The active document window, or null when there is none.
     virtual DocumentView* activeView() const = 0;
+    // The document window that was active last: the active one, or, while the search
+    // window is in front, the one before it. Null when there is none.
+    virtual DocumentView* lastActiveView() const { return activeView(); }
 };
 
 }  // namespace zvx

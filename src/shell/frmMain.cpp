@@ -316,6 +316,8 @@ void frmMain::subWindowActivated(QMdiSubWindow* window) {
     if (!window || window == lastActivated_)
         return;
     lastActivated_ = window;
+    if (dynamic_cast<DocumentView*>(window->widget()))
+        lastDocument_ = window;
     if (searcher* activated = qobject_cast<searcher*>(window->widget()))
         activated->Form_Activate();
 }
@@ -403,6 +405,12 @@ void frmMain::closeView(DocumentView* view) {
 DocumentView* frmMain::activeView() const {
     QMdiSubWindow* window = mdi_->currentSubWindow();
     return window ? dynamic_cast<DocumentView*>(window->widget()) : nullptr;
+}
+
+DocumentView* frmMain::lastActiveView() const {
+    if (DocumentView* view = activeView())
+        return view;
+    return lastDocument_ ? dynamic_cast<DocumentView*>(lastDocument_->widget()) : nullptr;
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -92,6 +92,7 @@ class frmMain : public QMainWindow, public DocumentWindows {
     DocumentView* createView(const std::string& caption) override;
     void closeView(DocumentView* view) override;
     DocumentView* activeView() const override;
+    DocumentView* lastActiveView() const override;
 
   protected:
     // The unload handler: ZVXQUIT, the lasting settings, the documents' own close
@@ -140,6 +141,7 @@ class frmMain : public QMainWindow, public DocumentWindows {
     // The child window activated last: a window's activation counts only when it comes
     // from another child window, not back from a dialog or another program.
     QPointer<QMdiSubWindow> lastActivated_;
+    QPointer<QMdiSubWindow> lastDocument_;
     NewsPanel* news_;
     QMenu* fileMenu_ = nullptr;
     QMenu* columnMenu_ = nullptr;

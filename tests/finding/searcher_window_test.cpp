@@ -63,11 +63,14 @@ class SearcherWindowTest : public test::MainWindowTest {
 };
 
 TEST_F(SearcherWindowTest, TheCounterAndTheRowsOfASearchAndOfARemoval) {
-    open();
+    frmDocument* document = open();
     searcher& window = find();
     EXPECT_EQ(Counter(window), "Found: 0 Entries");
+    main->lifecycle().find(document)->aender = false;
     search(window, "mp3");
     EXPECT_EQ(Counter(window), "Found: 4 Entries");
+    // The result's header fix-up marks the document behind the window changed.
+    EXPECT_TRUE(main->lifecycle().find(document)->aender);
     EXPECT_EQ(Cell(window, 1, 0), "b.mp3");
     EXPECT_EQ(Cell(window, 1, 1), "Music\\Rock\\");
     EXPECT_EQ(Cell(window, 1, 2), "000 000 000 007");
@@ -141,6 +144,7 @@ TEST_F(SearcherWindowTest, AClosedDocumentLeavesTheListStandingAndItsJumpDoesNot
     open();
     searcher& window = find();
     search(window, "b.mp3");
+    env.screen.answerMessage(MsgAnswer::No);  // the search marked it changed: not saved
     documents().at(0)->close();
     window.Form_Activate();
     EXPECT_EQ(Counter(window), "Found: 1 Entry");
