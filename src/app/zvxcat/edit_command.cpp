@@ -1,4 +1,3 @@
-#include <iostream>
 #include <string>
 
 #include "command_list.h"
@@ -86,12 +85,7 @@ void RunEdit(const Arguments& arguments, Common& common, std::ostream&) {
             form.texts[static_cast<size_t>(assignment.field)] = Typed(assignment);
         TempApply(common, buffers, rows.line(0), form.texts, level);
     }
-    const size_t changed = buffers.size();
-    if (changed > 0) {
-        FinalApply(common, catalogue.openWorkingCopy(), buffers);
-        catalogue.save();
-    }
-    std::cerr << ChangedSummary(changed) << "\n";
+    WriteEdits(common, catalogue, buffers);
 }
 
 }  // namespace

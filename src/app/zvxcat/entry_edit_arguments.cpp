@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <iostream>
 
 #include "arguments.h"
 #include "common/text_case.h"
+#include "document/editor_apply.h"
 #include "metadata/content_types.h"
 #include "metadata/genres.h"
 
@@ -65,8 +67,13 @@ void RequireListValue(const FieldAssignment& assignment) {
                          (assignment.field == 8 ? "file-types" : "genres"));
 }
 
-std::string ChangedSummary(size_t entries) {
-    return std::to_string(entries) + (entries == 1 ? " entry" : " entries") + " changed";
+void WriteEdits(Common& common, FolderCatalogue& catalogue, ChangeBuffers& buffers) {
+    const size_t changed = buffers.size();
+    if (changed > 0) {
+        FinalApply(common, catalogue.openWorkingCopy(), buffers);
+        catalogue.save();
+    }
+    std::cerr << changed << (changed == 1 ? " entry" : " entries") << " changed\n";
 }
 
 }  // namespace zvx::cat

@@ -8,6 +8,13 @@
 #include <string_view>
 #include <vector>
 
+#include "document/change_buffers.h"
+#include "folder_command_support.h"
+
+namespace zvx {
+class Common;
+}
+
 namespace zvx::cat {
 
 struct FieldAssignment {
@@ -28,7 +35,8 @@ std::vector<FieldAssignment> ParseFieldAssignments(const std::vector<std::string
 // field takes any text.
 void RequireListValue(const FieldAssignment& assignment);
 
-// "1 entry changed", "N entries changed".
-std::string ChangedSummary(size_t entries);
+// Leaving the editor: the buffered edits written by the final apply and FILE replaced
+// once, when there are any; "1 entry changed" or "N entries changed" on stderr.
+void WriteEdits(Common& common, FolderCatalogue& catalogue, ChangeBuffers& buffers);
 
 }  // namespace zvx::cat

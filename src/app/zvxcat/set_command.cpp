@@ -1,4 +1,3 @@
-#include <iostream>
 #include <string>
 
 #include "command_list.h"
@@ -52,12 +51,7 @@ void RunSet(const Arguments& arguments, Common& common, std::ostream&) {
         lines.push_back(rows.line(row));
     ChangeBuffers buffers;
     ApplyLockedSelection(common, buffers, lines, form, common.settings.renumberingLevel);
-    const size_t changed = buffers.size();
-    if (changed > 0) {
-        FinalApply(common, catalogue.openWorkingCopy(), buffers);
-        catalogue.save();
-    }
-    std::cerr << ChangedSummary(changed) << "\n";
+    WriteEdits(common, catalogue, buffers);
 }
 
 }  // namespace
