@@ -8,15 +8,14 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/buffered_file.h"
+
 namespace zvx {
 
-class LineBlocks {
+class LineBlocks : private BufferedFile {
   public:
     // Opens the file for reading from the 0-based `offset`. Throws FileError.
     LineBlocks(const std::filesystem::path& path, uint64_t offset);
-    ~LineBlocks();
-    LineBlocks(const LineBlocks&) = delete;
-    LineBlocks& operator=(const LineBlocks&) = delete;
 
     // The next block: whole lines, each ended by its LF, but for a last line without
     // one at the end of the file. Valid until the next call; false at the end.
@@ -25,16 +24,7 @@ class LineBlocks {
     uint64_t blockOffset() const { return blockOffset_; }
 
   private:
-    bool fill();
-
-    int fd_ = -1;
-    std::filesystem::path path_;
-    std::vector<char> buffer_;
-    size_t begin_ = 0;  // the first byte not given out yet
-    size_t end_ = 0;    // behind the last byte read
-    uint64_t filePos_;  // the file offset of buffer_[end_]
     uint64_t blockOffset_ = 0;
-    bool eof_ = false;
 };
 
 // A line of a block from `start`: its text without the terminator (LF or CR LF; a lone
