@@ -1,8 +1,10 @@
 // Any bytes, taken as the one declaration of each kind in PLUGINS (a.zvp, a.zva, a.zvi,
 // a.zve), go through the start-up's list building, the options dialog's scans, the
-// information box and the filter scans. A record read back from a list file is the
-// record written, so no field broke its line; a listed caption fits its 30 characters
-// and an add-on's events hold no "-".
+// information box and the filter scans, and what the host makes of the records: the
+// command's words, the wait mode, the call string and its event calls, the menu items and
+// shortcuts. A record read back from a list file is the record written, so no field broke
+// its line; a listed caption fits its 30 characters, an add-on's events hold no "-", and
+// its call string splits back into the events and the command.
 
 #include <cstddef>
 #include <cstdint>
@@ -11,11 +13,15 @@
 
 #include "common/common.h"
 #include "common/text_case.h"
+#include "extensions/addon_call.h"
+#include "extensions/addon_menus.h"
+#include "extensions/extension_command.h"
 #include "extensions/extension_files.h"
 #include "extensions/extension_info.h"
 #include "extensions/extension_lists.h"
 #include "extensions/filter_scan.h"
 #include "extensions/options_scans.h"
+#include "extensions/wait_mode.h"
 #include "fuzz_check.h"
 #include "fuzz_folder.h"
 #include "platform/file_error.h"
@@ -31,6 +37,15 @@ bool SameRecord(const zvx::ExtensionDeclaration& a, const zvx::ExtensionDeclarat
            a.caption == b.caption;
 }
 
+void CheckHostParts(const zvx::ExtensionDeclaration& d, bool addOn) {
+    zvx::ExtensionArguments(d.exe, "/nonexistent/PLUGINS");
+    zvx::ParseWaitMode(d.modal);
+    const zvx::AddOnCall call = zvx::SplitAddOnCall(zvx::AddOnCallString(d.modal, d.events, d.exe));
+    Require(!addOn || (call.events == d.events && call.command == d.exe),
+            "a call string splits back into its events and command");
+    zvx::EventCalls(call.events);
+}
+
 void CheckReadBack(const zvx::ExtensionListBuild& build,
                    const std::vector<zvx::ExtensionDeclaration>& read, bool addOn) {
     Require(read.size() == build.listed.size(), "the list file holds one record a listing");
@@ -43,6 +58,7 @@ void CheckReadBack(const zvx::ExtensionListBuild& build,
                 "a listed caption fits");
         Require(!addOn || written.events.find('-') == std::string::npos,
                 "a listed add-on's events hold no \"-\"");
+        CheckHostParts(written, addOn);
     }
 }
 
@@ -51,6 +67,8 @@ void ScanAll(const zvx::Common& common) {
     CheckReadBack(plugIns, zvx::ReadPlugInList(common), false);
     const zvx::ExtensionListBuild addOns = zvx::BuildAddOnList(common, nullptr);
     CheckReadBack(addOns, zvx::ReadAddOnList(common), true);
+    zvx::AddOnMenuItems(zvx::ReadAddOnList(common));
+    zvx::AddOnShortcuts(common, nullptr);
     zvx::PLUGini(common, nullptr);
     zvx::Addini(common, nullptr);
     zvx::ConfigInfo(common, "A.ZVP", "config");

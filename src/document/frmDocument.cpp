@@ -108,6 +108,12 @@ void frmDocument::refresh_Click() {
     ShowEntries();
 }
 
+void frmDocument::hardRefresh() {
+    List2_->clear();
+    items_.clear();
+    refresh_Click();
+}
+
 void frmDocument::listak() {
     if (editorOnShow())
         applyEditorChanges();

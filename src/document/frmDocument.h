@@ -68,6 +68,8 @@ class frmDocument : public QWidget, public DocumentView {
 
     // The tree (listak) and the list (ShowEntries).
     void listak();
+    // The tree emptied and rebuilt, so no selection is remembered, then the list.
+    void hardRefresh();
     void ShowEntries();
     SelectionFacts selectionFacts() const;
 

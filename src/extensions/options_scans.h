@@ -20,6 +20,11 @@ struct ExtensionRow {
     int icon = 1;          // 1 enabled, 2 disabled
 };
 
+// The declarations of a kind that scan without refusal, in name order, disabled ones
+// included; each file is announced through `show` ("Scanning Add-On: " and its name).
+std::vector<ListedExtension> ScanSilently(const Common& common, ExtensionKind kind,
+                                          const ScanTextSink& show);
+
 // Each file is announced on the dialog's label through `show` ("Scanning Plug-In: " and
 // the file name).
 std::vector<ExtensionRow> PLUGini(const Common& common, const ScanTextSink& show);

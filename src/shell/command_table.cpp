@@ -59,6 +59,7 @@ struct PrefixCommand {
 constexpr std::array kPrefixCommands{
     PrefixCommand{"recentfile", Command::RecentFile},
     PrefixCommand{"chset", Command::ColumnSetting},
+    PrefixCommand{"entryaddons(", Command::AddOn},
 };
 
 }  // namespace

@@ -52,6 +52,7 @@ enum class Command {
     SearchResultsExecute,
     RecentFile,     // the argument is the rest of the name: the number of the menu entry
     ColumnSetting,  // the argument is the number of the column-setting menu entry
+    AddOn,          // entryaddons(N): the argument is "N)"
 };
 
 // One row of the name table: the menu entry's key and the name for tool bars and

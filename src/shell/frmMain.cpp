@@ -14,6 +14,7 @@
 #include "common/common.h"
 #include "document/frmDocument.h"
 #include "document/list_appearance.h"
+#include "extensions/addon_menus.h"
 #include "finding/searcher.h"
 #include "launch/ZVXPlay01.h"
 #include "shell/cleanup_window.h"
@@ -32,8 +33,13 @@
 
 namespace zvx {
 
-frmMain::frmMain(Common& common, Desktop& desktop, const Clock& clock)
-    : common_(common), desktop_(desktop), estimator_(clock), statusLine_(estimator_) {
+frmMain::frmMain(Common& common, Desktop& desktop, const Clock& clock,
+                 const WaitTimings& extensionWait)
+    : common_(common),
+      desktop_(desktop),
+      estimator_(clock),
+      statusLine_(estimator_),
+      extensionWait_(extensionWait) {
     setObjectName("frmMain");
     setWindowTitle("ZVX");
     setWindowIcon(ThemeIcon("zvx"));
@@ -54,6 +60,8 @@ frmMain::frmMain(Common& common, Desktop& desktop, const Clock& clock)
             activateWindow();
         },
         [this](const std::string&) { lifecycle_->LoadDoc(); });
+    extensions_ = std::make_unique<ExtensionHost>(common_, static_cast<ExtensionWindows&>(*this));
+    common_.onPlugStart = [this](const std::string& name) { extensions_->PLUGSTART(name); };
 
     buildMenus();
     buildToolBars();
@@ -63,6 +71,7 @@ frmMain::frmMain(Common& common, Desktop& desktop, const Clock& clock)
 
 frmMain::~frmMain() {
     common_.onRecentRefresh = nullptr;
+    common_.onPlugStart = nullptr;
 }
 
 void frmMain::MDIForm_Load() {
@@ -133,6 +142,9 @@ void frmMain::runCommand(const ResolvedCommand& resolved) {
             break;
         case Command::ColumnSetting:
             loadColumnSetting(resolved.argument);
+            break;
+        case Command::AddOn:
+            runAddOnItem(kAddOnKeyPrefix + resolved.argument);
             break;
         case Command::ViewSaveColumns:
             saveColumnSetting();
@@ -316,8 +328,10 @@ void frmMain::subWindowActivated(QMdiSubWindow* window) {
     if (!window || window == lastActivated_)
         return;
     lastActivated_ = window;
-    if (dynamic_cast<DocumentView*>(window->widget()))
+    if (dynamic_cast<DocumentView*>(window->widget())) {
         lastDocument_ = window;
+        common_.PLUGSTART("ZVXDOCUMENTFOCUS");
+    }
     if (searcher* activated = qobject_cast<searcher*>(window->widget()))
         activated->Form_Activate();
 }

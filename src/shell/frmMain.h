@@ -10,6 +10,7 @@
 
 #include "document/document_lifecycle.h"
 #include "document/document_view.h"
+#include "extensions/extension_host.h"
 #include "shell/command_table.h"
 #include "shell/estimator.h"
 #include "shell/status_line.h"
@@ -35,12 +36,14 @@ class frmDocument;
 class frmSplash;
 class searcher;
 
-class frmMain : public QMainWindow, public DocumentWindows {
+class frmMain : public QMainWindow, public DocumentWindows, private ExtensionWindows {
     Q_OBJECT
   public:
     // Questions go to the common module's Screen; the front end routes the Screen's
-    // status and progress to status() and progress().
-    frmMain(Common& common, Desktop& desktop, const Clock& clock);
+    // status and progress to status() and progress(). The wait for an extension keeps to
+    // `extensionWait`.
+    frmMain(Common& common, Desktop& desktop, const Clock& clock,
+            const WaitTimings& extensionWait = {});
     ~frmMain() override;
 
     // The load handler: recent files, geometry, bars, panels, the empty selection.
@@ -75,6 +78,12 @@ class frmMain : public QMainWindow, public DocumentWindows {
     // its view to the view menu's checks.
     void updateDocumentState();
 
+    // The add-ons' menu items from addlist.tmp, and their tool bar shortcuts (noplan);
+    // both once at the start.
+    void AddOnsShow();
+    void MenuMakerYo();
+    ExtensionHost& extensions() { return *extensions_; }
+
     // The splash window of the start, removed by nosplash.
     void setSplash(frmSplash* splash);
     void nosplash();
@@ -100,6 +109,15 @@ class frmMain : public QMainWindow, public DocumentWindows {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    // ExtensionWindows
+    HandOverFacts handOverFacts() const override;
+    void repaintActive() override;
+    void showWait(const std::string& exeName, const WaitMode& wait) override;
+    void eventCall(AddOnEventCall call) override;
+    // entryaddons(N): the add-on of the menu item of this key.
+    void runAddOnItem(const std::string& key);
+    QMenu* addOnParent(const std::string& key);
+
     void buildMenus();
     searcher* activeSearcher() const;
     void subWindowActivated(QMdiSubWindow* window);
@@ -136,6 +154,9 @@ class frmMain : public QMainWindow, public DocumentWindows {
     StatusLine statusLine_;
     std::unique_ptr<DocumentLifecycle> lifecycle_;
     std::unique_ptr<class CommandFilePoll> poll_;
+    WaitTimings extensionWait_;
+    std::unique_ptr<ExtensionHost> extensions_;
+    QToolBar* noplan_ = nullptr;
     QMdiArea* mdi_;
     QPointer<searcher> searcher_;
     // The child window activated last: a window's activation counts only when it comes
@@ -147,6 +168,9 @@ class frmMain : public QMainWindow, public DocumentWindows {
     QMenu* columnMenu_ = nullptr;
     QMenu* folderMenu_ = nullptr;
     QMenu* entryMenu_ = nullptr;
+    // The add-ons of the sections "SELECT" and "ADDONS"; hidden while they have none.
+    QMenu* selectionAddOns_ = nullptr;
+    QMenu* addOnMenu_ = nullptr;
     QAction* recentTOP_ = nullptr;
     QToolBar* Toolbar1_ = nullptr;
     QToolBar* ViewBar_ = nullptr;

@@ -85,6 +85,9 @@ void frmMain::buildMenus() {
     addEntry(entries, "foldermnu7", "&Delete", "edit-delete");
     entries->addSeparator();
     addEntry(entries, "foldermnu10", "E&xecute", "system-run");
+    selectionAddOns_ = entries->addMenu("Se&lection");
+    selectionAddOns_->setObjectName("foldermnu1");
+    selectionAddOns_->menuAction()->setVisible(false);
 
     QMenu* folders = menuBar()->addMenu("F&older");
     folderMenu_ = folders;
@@ -104,6 +107,10 @@ void frmMain::buildMenus() {
     QMenu* results = menuBar()->addMenu("&Results");
     results->menuAction()->setObjectName("exemnuTOP");
     addEntry(results, "exemnu01", "&Execute", "system-run");
+
+    addOnMenu_ = menuBar()->addMenu("A&dd-Ons");
+    addOnMenu_->setObjectName("addonmnuTOP");
+    addOnMenu_->menuAction()->setVisible(false);
 
     QMenu* windows = menuBar()->addMenu("&Window");
     windows->setObjectName("mnuwinTOP");

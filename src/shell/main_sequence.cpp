@@ -84,6 +84,8 @@ void LoadExtras(Common& common, frmMain& main, frmSplash& splash,
     splash.setStatus("Loading Add-Ons...");
     RunGuarded(common, [&] { BuildAddOnList(common, showOnSplash); });
     splash.setStatus("Setting Up Menu-Scripts...");
+    RunGuarded(common, [&main] { main.AddOnsShow(); });
+    RunGuarded(common, [&main] { main.MenuMakerYo(); });
     splash.setStatus("Loading Internet-Components...");
     main.newsPanel()->initialise(ReadSetting(common, "NEWSCLIENTMINIMIZED", "NO").isYes(),
                                  VersionText());

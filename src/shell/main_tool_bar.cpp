@@ -79,6 +79,10 @@ void frmMain::buildToolBars() {
     ProgressBar1_->setTextVisible(false);
     ProgressBar1_->setMaximumWidth(240);
     ProgressBand_->addWidget(ProgressBar1_);
+    // The add-ons' shortcuts; shown once one of them is.
+    noplan_ = addToolBar("Add-Ons");
+    noplan_->setObjectName("noplan");
+    noplan_->hide();
 }
 
 void frmMain::RealSelectionizer(const SelectionState& state, bool keepFolderItems) {
