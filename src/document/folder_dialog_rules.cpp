@@ -88,6 +88,8 @@ std::optional<FolderDialogResult> FolderPropsOk(const Common& common, bool newFo
 
 MovingSetup SetUpMoving(Common& common, const std::filesystem::path& workingCopy, MovingMode mode,
                         int documentSelected) {
+    // The chooser's tree is a rebuild of its own, told to the plug-ins as the document's is.
+    common.PLUGSTART("ZVXREFRESHF");
     common.screen().status(kMovingStatus);
     MovingSetup setup;
     setup.tree = LoadFolderTree(common, workingCopy);

@@ -87,10 +87,10 @@ struct MovingSetup {
     bool subFolderTarget = true;  // Option1 chosen, else Option2
 };
 
-// Builds the dialog's tree from the working copy under "Building Tree-View...", selects
-// the document's selected folder (`documentSelected`, -1 for none), and in mode "folder"
-// chooses the remembered option and removes the selected folder's descendants from the
-// tree, so that no folder below the source can be chosen.
+// Fires ZVXREFRESHF and builds the dialog's tree from the working copy under "Building
+// Tree-View...", selects the document's selected folder (`documentSelected`, -1 for none),
+// and in mode "folder" chooses the remembered option and removes the selected folder's
+// descendants from the tree, so that no folder below the source can be chosen.
 MovingSetup SetUpMoving(Common& common, const std::filesystem::path& workingCopy, MovingMode mode,
                         int documentSelected);
 

@@ -76,7 +76,10 @@ TEST(Moving, FolderModeHidesTheSourcesChildrenAndRemembersTheTarget) {
                                               {"A\\B\\", "", 10, "00000001"},
                                               {"C\\", "", 10, "00000002"}},
                                              {}));
+    std::vector<std::string> events;
+    env.common.onPlugStart = [&](const std::string& name) { events.push_back(name); };
     MovingSetup setup = SetUpMoving(env.common, cfn, MovingMode::Folder, 0);
+    EXPECT_EQ(events, std::vector<std::string>{"ZVXREFRESHF"});
     EXPECT_EQ(env.screen.statuses.front(), "Building Tree-View...");
     ASSERT_EQ(setup.tree.size(), 2);
     EXPECT_EQ(setup.tree.nodes[1].fullPath, "C");

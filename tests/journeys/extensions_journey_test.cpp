@@ -26,7 +26,7 @@ void Install(const fs::path& plugins, std::initializer_list<const char*> names) 
 TEST(ExtensionsJourney, TheEventLogAndTheStatisticsAddOnRunInTheirPlaces) {
     Journey journey;
     setenv("ZVX_OPENER", "true", 1);
-    WriteAll(journey.appFolder() / "zvx.ini", "FIRSTSTART=no\r\n");
+    WriteAll(journey.appFolder() / "zvx.ini", "FIRSTSTART=no\r\nADDONSHORTCUTSTATS.ZVA=YES\r\n");
     const fs::path plugins = journey.appFolder() / "PLUGINS";
     Install(plugins, {"eventlog.zvp", "eventlog.sh", "stats.zva", "stats.sh"});
     const fs::path shelf = journey.userFolder() / "shelf.zvx";
@@ -47,6 +47,11 @@ TEST(ExtensionsJourney, TheEventLogAndTheStatisticsAddOnRunInTheirPlaces) {
             ASSERT_NE(report, nullptr);
             EXPECT_EQ(report->text(), "Statistics Report");
             EXPECT_TRUE(main.findChild<QMenu*>("addonmnuTOP")->menuAction()->isVisible());
+            // Its shortcut is made, but only the sections of the bar show theirs.
+            const QAction* shortcut = main.findChild<QAction*>("noplan1");
+            ASSERT_NE(shortcut, nullptr);
+            EXPECT_EQ(shortcut->text(), "Statistics Report");
+            EXPECT_FALSE(shortcut->isVisible());
             report->trigger();
         });
     journey.onMain("quit", [](frmMain& main) { Choose(main, "mnufile6"); });
