@@ -88,17 +88,19 @@ void SplitEntries(Common& common, const std::filesystem::path& cfn, const TreeId
     }
 }
 
+}  // namespace
+
 void SplitSearchFiles(Common& common, const std::filesystem::path& cfn,
-                      const std::optional<SearchFolder>& selected) {
+                      const std::optional<SearchFolder>& selected, const SplitStatusTexts& texts) {
     Screen& screen = common.screen();
-    screen.status(kCreatingTocs);
+    screen.status(texts.creatingTocs);
     const std::filesystem::path tree = common.workFile(kSearchTreeFile);
     const std::filesystem::path folder = common.workFile(kSearchFolderFile);
     const std::string head = SearchHead(cfn);
     WriteNew(tree, head);
     WriteNew(folder, head);
     common.PLUGSTART("ZVXREFRESHS");
-    screen.status(kFilteringEntries);
+    screen.status(texts.filteringEntries);
     if (!selected) {
         screen.status("");
         return;
@@ -117,8 +119,6 @@ void SplitSearchFiles(Common& common, const std::filesystem::path& cfn,
     screen.status("");
 }
 
-}  // namespace
-
 void SearchInit(Common& common, const std::filesystem::path& cfn, bool splitMode,
                 const std::optional<SearchFolder>& selected) {
     common.screen().status(kPreparingFull);
@@ -126,7 +126,7 @@ void SearchInit(Common& common, const std::filesystem::path& cfn, bool splitMode
         DeleteFileIfExists(common.workFile(name));
     CopyFileBytes(cfn, common.workFile(kSearchFullFile));
     if (splitMode) {
-        SplitSearchFiles(common, cfn, selected);
+        SplitSearchFiles(common, cfn, selected, {kCreatingTocs, kFilteringEntries});
         return;
     }
     common.setProgress(0);

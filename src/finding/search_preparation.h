@@ -34,4 +34,16 @@ inline constexpr size_t kSearchTreeFolderLimit = 64001;
 void SearchInit(Common& common, const std::filesystem::path& cfn, bool splitMode,
                 const std::optional<SearchFolder>& selected);
 
+// The status texts of the split: while the TOCs are written, and while the entries are
+// filtered. The export's preparation has texts of its own.
+struct SplitStatusTexts {
+    const char* creatingTocs;
+    const char* filteringEntries;
+};
+
+// The split alone: searcht.tmp and searchf.tmp as SearchInit makes them in split mode,
+// ZVXREFRESHS fired between the two steps.
+void SplitSearchFiles(Common& common, const std::filesystem::path& cfn,
+                      const std::optional<SearchFolder>& selected, const SplitStatusTexts& texts);
+
 }  // namespace zvx
