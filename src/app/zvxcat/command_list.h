@@ -27,6 +27,7 @@ const Command& RmCommand();
 const Command& SetCommand();
 const Command& EditCommand();
 const Command& SearchCommand();
+const Command& ExportCommand();
 const Command& OpenCommand();
 const Command& ExtensionsCommand();
 
