@@ -1,6 +1,7 @@
 #include "exchange/export_toc.h"
 
 #include <algorithm>
+#include <cstring>
 #include <ctime>
 #include <unordered_map>
 #include <unordered_set>
@@ -9,10 +10,9 @@
 #include "common/common.h"
 #include "common/text_case.h"
 #include "document/progress_steps.h"
-#include "finding/search_files.h"
+#include "finding/line_blocks.h"
 #include "finding/search_run.h"
 #include "platform/file_io.h"
-#include "platform/line_reader.h"
 #include "store/catalogue_format.h"
 #include "store/entry_offset.h"
 #include "store/temp_file.h"
@@ -30,32 +30,77 @@ constexpr const char* kGeneratingToc =
     "Optimizing Exported TOC (Resolving IDs And Generating New TOC)...";
 constexpr const char* kCopyingEntries = "Optimizing Exported TOC (Copying Entries)...";
 
-// The used folder IDs in order of first use (aDDid's list), with a set for the test.
+// The used folder IDs in order of first use (aDDid's list), with sets for the test: the
+// eight characters of an entry's ID as one number, any other ID as text.
 class UsedIds {
   public:
     void add(std::string_view id) {
-        if (seen_.emplace(id).second)
-            order_.emplace_back(id);
+        if (id.size() == kFolderIdLength) {
+            uint64_t key = 0;
+            std::memcpy(&key, id.data(), kFolderIdLength);
+            // Entries are added folder by folder, so an ID mostly repeats the one before.
+            if (hasLast_ && key == lastKey_)
+                return;
+            hasLast_ = true;
+            lastKey_ = key;
+            if (!keys_.insert(key).second)
+                return;
+        } else if (!others_.emplace(id).second) {
+            return;
+        }
+        order_.emplace_back(id);
     }
     const std::vector<std::string>& order() const { return order_; }
 
   private:
     std::vector<std::string> order_;
-    std::unordered_set<std::string> seen_;
+    std::unordered_set<uint64_t> keys_;
+    uint64_t lastKey_ = 0;
+    bool hasLast_ = false;
+    std::unordered_set<std::string> others_;
 };
 
-UsedIds ReadUsedIds(Common& common, const std::filesystem::path& file) {
-    const size_t start = EntrySectionStart(file);
-    ProgressSteps progress(common, static_cast<long long>(FileLength(file) - start) + 2);
-    UsedIds used;
-    LineReader reader(file, start);
-    std::string_view line;
-    while (reader.next(line)) {
-        progress.set(static_cast<long long>(reader.position() - start));
-        if (line.size() >= kFolderIdLength)
-            used.add(line.substr(0, kFolderIdLength));
+// The entry section of the source, from its 0-based start.
+struct EntrySection {
+    std::filesystem::path file;
+    uint64_t start = 0;
+};
+
+// Calls `line` for each line of a block: its text without LF or CR LF. False when a line
+// does not end in CR LF, as a line copy would then change its bytes.
+template <typename Line>
+bool ForEachLine(std::string_view block, Line line) {
+    bool plain = true;
+    for (size_t pos = 0; pos < block.size();) {
+        size_t end = block.find('\n', pos);
+        const size_t next = end == std::string_view::npos ? block.size() : end + 1;
+        if (end == std::string_view::npos || end == pos || block[end - 1] != '\r') {
+            plain = false;
+            end = end == std::string_view::npos ? block.size() : end;
+        } else {
+            --end;
+        }
+        line(block.substr(pos, end - pos));
+        pos = next;
     }
-    return used;
+    return plain;
+}
+
+// The IDs of the entry lines, and whether every line ends in CR LF.
+bool ReadUsedIds(Common& common, const EntrySection& entries, UsedIds& used) {
+    ProgressSteps progress(common,
+                           static_cast<long long>(FileLength(entries.file) - entries.start) + 2);
+    LineBlocks blocks(entries.file, entries.start);
+    std::string_view block;
+    bool plain = true;
+    while (blocks.next(block)) {
+        plain &= ForEachLine(block, [&](std::string_view line) {
+            if (line.size() >= kFolderIdLength)
+                used.add(line.substr(0, kFolderIdLength));
+        });
+        progress.set(static_cast<long long>(blocks.blockOffset() + block.size() - entries.start));
+    }
+    return plain;
 }
 
 // A hash of every start of a text, one character at a time, so that all starts of a path
@@ -141,20 +186,80 @@ void AddAncestors(const TocIndex& toc, UsedIds& used) {
     }
 }
 
-void CopyEntryLines(const std::filesystem::path& from, AppendWriter& to,
+// Appends every entry line with CR LF; with `newId` its first eight characters replaced.
+// Lines known to end in CR LF already are copied a block at a time.
+void CopyEntryLines(const EntrySection& entries, AppendWriter& to, bool plain,
                     std::string_view newId = {}) {
-    LineReader reader(from, EntrySectionStart(from));
-    std::string_view line;
-    while (reader.next(line)) {
-        if (newId.empty()) {
-            to.writeLine(line);
+    LineBlocks blocks(entries.file, entries.start);
+    std::string_view block;
+    std::string changed;
+    while (blocks.next(block)) {
+        if (plain && newId.empty()) {
+            to.write(block);
             continue;
         }
-        std::string changed(newId);
-        if (line.size() > kFolderIdLength)
-            changed.append(line.substr(kFolderIdLength));
-        to.writeLine(changed);
+        ForEachLine(block, [&](std::string_view line) {
+            if (newId.empty()) {
+                to.writeLine(line);
+                return;
+            }
+            changed.assign(newId);
+            if (line.size() > kFolderIdLength)
+                changed.append(line.substr(kFolderIdLength));
+            to.writeLine(changed);
+        });
     }
+}
+
+void MakeNewToc(Common& common, const EntrySection& entries, const std::filesystem::path& target,
+                std::string_view today) {
+    PrepareTempFile(common);
+    CopyHeaderToTempFile(common, entries.file);
+    {
+        AppendWriter out(common.workFile(kTempFile));
+        out.writeLine(kExportedFolderPath);
+        // "-" is the icon character of icon number 5.
+        out.writeLine("Exported with ZVX (" + std::string(today) + ")-");
+        out.writeLine(kExportedFolderId);
+        out.writeLine("");
+        CopyEntryLines(entries, out, false, kExportedFolderId);
+        out.close();
+    }
+    ReplaceFromTempFile(common, target);
+    UpdateEntryOffset(common, target);
+}
+
+void OptimizeToc(Common& common, const EntrySection& entries, const std::filesystem::path& target) {
+    Screen& screen = common.screen();
+    screen.status(kSearchingUsed);
+    UsedIds used;
+    const bool plain = ReadUsedIds(common, entries, used);
+    screen.status(kSearchingParents);
+    common.setProgress(0);
+    const TocIndex toc(ReadTocGroups(entries.file));
+    AddAncestors(toc, used);
+    screen.status(kGeneratingToc);
+    const std::filesystem::path rebuilt = common.workFile(kOptimizeTempFile);
+    WriteEmptyFile(rebuilt);
+    {
+        AppendWriter out(rebuilt);
+        out.write(std::string{static_cast<char>(kCurrentFormatVersion), 0, 0, 0, 0});
+        for (const std::string& id : used.order()) {
+            if (const TocGroup* group = toc.group(id)) {
+                out.writeLine(group->path);
+                out.writeLine(group->descriptionLine);
+                out.writeLine(group->id);
+            }
+        }
+        screen.status(kCopyingEntries);
+        out.writeLine("");
+        CopyEntryLines(entries, out, plain);
+        out.close();
+    }
+    UpdateEntryOffset(common, rebuilt);
+    ReplaceFile(rebuilt, target);
+    common.setProgress(0);
+    screen.status("");
 }
 
 }  // namespace
@@ -181,61 +286,19 @@ std::string TodayShortDate() {
 void ApplyExportToc(Common& common, const std::filesystem::path& file,
                     const std::filesystem::path& backup, ExportTocMode mode,
                     std::string_view today) {
-    CopyFileBytes(backup, file);
-    UpdateEntryOffset(common, file);
+    if (mode == ExportTocMode::All) {
+        CopyFileBytes(backup, file);
+        UpdateEntryOffset(common, file);
+        return;
+    }
+    // The modes read the untouched copy itself, from where the offset set anew points,
+    // rather than a copy of it.
+    const uint64_t offset = DecodeEntryOffset(EncodeEntryOffset(FindTocEnd(backup)));
+    const EntrySection entries{backup, offset > 0 ? offset - 1 : 0};
     if (mode == ExportTocMode::New)
-        MakeNewExportToc(common, file, today);
-    else if (mode == ExportTocMode::Optimize)
-        OptimizeExportToc(common, file);
-}
-
-void MakeNewExportToc(Common& common, const std::filesystem::path& file, std::string_view today) {
-    PrepareTempFile(common);
-    CopyHeaderToTempFile(common, file);
-    {
-        AppendWriter out(common.workFile(kTempFile));
-        out.writeLine(kExportedFolderPath);
-        // "-" is the icon character of icon number 5.
-        out.writeLine("Exported with ZVX (" + std::string(today) + ")-");
-        out.writeLine(kExportedFolderId);
-        out.writeLine("");
-        CopyEntryLines(file, out, kExportedFolderId);
-        out.close();
-    }
-    ReplaceFromTempFile(common, file);
-    UpdateEntryOffset(common, file);
-}
-
-void OptimizeExportToc(Common& common, const std::filesystem::path& file) {
-    Screen& screen = common.screen();
-    screen.status(kSearchingUsed);
-    UsedIds used = ReadUsedIds(common, file);
-    screen.status(kSearchingParents);
-    common.setProgress(0);
-    const TocIndex toc(ReadTocGroups(file));
-    AddAncestors(toc, used);
-    screen.status(kGeneratingToc);
-    const std::filesystem::path rebuilt = common.workFile(kOptimizeTempFile);
-    WriteEmptyFile(rebuilt);
-    {
-        AppendWriter out(rebuilt);
-        out.write(std::string{static_cast<char>(kCurrentFormatVersion), 0, 0, 0, 0});
-        for (const std::string& id : used.order()) {
-            if (const TocGroup* group = toc.group(id)) {
-                out.writeLine(group->path);
-                out.writeLine(group->descriptionLine);
-                out.writeLine(group->id);
-            }
-        }
-        screen.status(kCopyingEntries);
-        out.writeLine("");
-        CopyEntryLines(file, out);
-        out.close();
-    }
-    UpdateEntryOffset(common, rebuilt);
-    ReplaceFile(rebuilt, file);
-    common.setProgress(0);
-    screen.status("");
+        MakeNewToc(common, entries, file, today);
+    else
+        OptimizeToc(common, entries, file);
 }
 
 }  // namespace zvx

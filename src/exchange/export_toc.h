@@ -24,25 +24,22 @@ inline constexpr const char* kExportedFolderId = "00000001";
 // Today's date in the short form the status bar shows it.
 std::string TodayShortDate();
 
-// One run of the export dialog: the file is first replaced by the untouched copy
-// `backup`, so that runs with different modes are independent, its entry offset is set
-// anew (a search's file may have it wrong), then the mode is applied. `today` is the date
-// text of mode "new". Throws FileError.
+// One run of the export dialog: the file becomes the untouched copy `backup` with its
+// entry offset set anew (a search's file may have it wrong), so that runs with different
+// modes are independent, and then takes the mode. Throws FileError.
+//
+// "new": the TOC becomes the single group "Exported Entries\" with the description
+// "Exported with ZVX (today)", the icon character "-" and the ID 00000001, and every
+// entry line's first eight characters become that ID.
+//
+// "optimize": the TOC keeps, unchanged, the groups of the IDs the entry lines use, in
+// order of first use, followed by their ancestors as the walk meets them: for each used
+// ID in turn, every group in file order whose path is, in lower case, the start of the
+// ID's path and no longer than it. An ID missing from the TOC has the path "<???>" and no
+// group. The entry lines follow unchanged. The TOC is read once and the used IDs are held
+// in memory, so the cost grows with the file, not with its square.
 void ApplyExportToc(Common& common, const std::filesystem::path& file,
                     const std::filesystem::path& backup, ExportTocMode mode,
                     std::string_view today);
-
-// Mode "new" on the file: the TOC becomes the single group "Exported Entries\" with the
-// description "Exported with ZVX (today)", the icon character "-" and the ID 00000001, and
-// every entry line's first eight characters become that ID.
-void MakeNewExportToc(Common& common, const std::filesystem::path& file, std::string_view today);
-
-// Mode "optimize" on the file: the TOC keeps, unchanged, the groups of the IDs the entry
-// lines use, in order of first use, followed by their ancestors as the walk meets them:
-// for each used ID in turn, every group in file order whose path is, in lower case, the
-// start of the ID's path and no longer than it. An ID missing from the TOC has the path
-// "<???>" and no group. The entry lines follow unchanged. The TOC is read once and the
-// used IDs are held in memory, so the cost grows with the file, not with its square.
-void OptimizeExportToc(Common& common, const std::filesystem::path& file);
 
 }  // namespace zvx

@@ -41,9 +41,12 @@ std::string ReferenceOptimize(const std::filesystem::path& file) {
     const std::vector<TocGroup> toc = ReadTocGroups(file);
     const std::string bytes = test::ReadAll(file);
     std::vector<std::string> entries;
-    for (size_t pos = ReadEntryOffset(file) - 1, end; pos < bytes.size(); pos = end + 2) {
-        end = bytes.find("\r\n", pos);
-        entries.push_back(bytes.substr(pos, end - pos));
+    for (size_t pos = ReadEntryOffset(file) - 1, end; pos < bytes.size(); pos = end + 1) {
+        end = std::min(bytes.find('\n', pos), bytes.size());
+        std::string line = bytes.substr(pos, end - pos);
+        if (end < bytes.size() && line.ends_with('\r'))
+            line.pop_back();
+        entries.push_back(line);
     }
     std::vector<std::string> used;
     auto addId = [&](const std::string& id) {
@@ -136,7 +139,13 @@ TEST(ExportToc, OptimizeEqualsTheWalkOfItsRulesOnRandomCatalogues) {
         std::vector<std::string> entries;
         for (unsigned count = random() % 40; count > 0; --count)
             entries.push_back(EntryLineOf("0000000" + std::to_string(random() % 10), {"e"}));
-        ExportBench bench(CatalogueBytes(folders, entries));
+        std::string bytes = CatalogueBytes(folders, entries);
+        // Lines ended by LF alone, and a last line without an end, are read as lines too.
+        if (round % 3 == 1)
+            bytes.erase(bytes.size() - 2);
+        if (round % 3 == 2 && !entries.empty())
+            bytes.erase(bytes.rfind('\r'), 1);
+        ExportBench bench(bytes);
         const std::string fast = bench.run(ExportTocMode::Optimize);
         ApplyExportToc(bench.env.common, bench.file, bench.backup, ExportTocMode::All, "");
         ASSERT_EQ(fast, ReferenceOptimize(bench.file)) << "round " << round;
