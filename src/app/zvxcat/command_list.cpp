@@ -7,13 +7,13 @@ namespace zvx::cat {
 
 namespace {
 
-std::array<const Command*, 22> AllCommands() {
-    return {&NewCommand(),        &InfoCommand(),  &SettingsCommand(), &LsCommand(),
-            &FoldersCommand(),    &MkdirCommand(), &RmdirCommand(),    &MvdirCommand(),
-            &RenameCommand(),     &TagsCommand(),  &ScanCommand(),     &AddCommand(),
-            &AddTreeCommand(),    &SetCommand(),   &EditCommand(),     &CpCommand(),
-            &MvCommand(),         &RmCommand(),    &SearchCommand(),   &ExportCommand(),
-            &ExtensionsCommand(), &OpenCommand()};
+std::array<const Command*, 23> AllCommands() {
+    return {&NewCommand(),     &InfoCommand(),       &SettingsCommand(), &LsCommand(),
+            &FoldersCommand(), &MkdirCommand(),      &RmdirCommand(),    &MvdirCommand(),
+            &RenameCommand(),  &TagsCommand(),       &ScanCommand(),     &AddCommand(),
+            &AddTreeCommand(), &SetCommand(),        &EditCommand(),     &CpCommand(),
+            &MvCommand(),      &RmCommand(),         &SearchCommand(),   &ExportCommand(),
+            &ImportCommand(),  &ExtensionsCommand(), &OpenCommand()};
 }
 
 }  // namespace

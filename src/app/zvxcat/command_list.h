@@ -28,6 +28,7 @@ const Command& SetCommand();
 const Command& EditCommand();
 const Command& SearchCommand();
 const Command& ExportCommand();
+const Command& ImportCommand();
 const Command& OpenCommand();
 const Command& ExtensionsCommand();
 

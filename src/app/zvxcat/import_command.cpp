@@ -1,0 +1,75 @@
+#include <iostream>
+
+#include "command_list.h"
+#include "common/common.h"
+#include "document/document_path.h"
+#include "exchange/merge.h"
+#include "folder_command_support.h"
+#include "platform/file_io.h"
+
+namespace zvx::cat {
+
+namespace {
+
+void CheckImport(const Arguments& arguments) {
+    RequirePositionalCount(arguments, 2, 2);
+    if ((arguments.value("--under") != nullptr) == arguments.has("--as-root"))
+        throw UsageError("give either --under FOLDERPATH or --as-root");
+}
+
+// The TOC path the source goes under: the chosen folder's FullPath and "\", or the root.
+std::string TargetPathArgument(const Arguments& arguments, const FolderCatalogue& catalogue) {
+    const std::string* under = arguments.value("--under");
+    if (under == nullptr)
+        return "";
+    FolderTree tree = catalogue.tree();
+    return tree.nodes[RequireFolder(tree, *under, catalogue.file())].fullPath + "\\";
+}
+
+// The built-in importer: the source is copied to imported.tmp, which the merge consumes,
+// and the merge runs on the working copy, which replaces FILE only when it succeeded.
+void RunImport(const Arguments& arguments, Common& common, std::ostream&) {
+    FolderCatalogue catalogue(common, arguments.positional[0]);
+    const std::filesystem::path source = NativePathArgument(arguments.positional[1]);
+    if (!HasZvxExtension(source.string())) {
+        common.screen().message("Error", "The file MUST have the extension \".zvx\" !",
+                                MsgButtons::OkOnly, MsgIcon::Critical);
+        RefuseChange(catalogue.file());
+    }
+    const std::string targetPath = TargetPathArgument(arguments, catalogue);
+    const std::filesystem::path imported = common.workFile("imported.tmp");
+    CopyFileBytes(source, imported);
+    common.screen().status("IMPORT IN PROGRESS...");
+    MergeResult result = MergeCatalogue(common, catalogue.openWorkingCopy(), imported, targetPath);
+    common.screen().status("");
+    if (!result.merged)
+        RefuseChange(catalogue.file());
+    catalogue.save();
+    std::cerr << "zvxcat: " << result.folders << " folders and " << result.entries
+              << " entries merged\n";
+}
+
+}  // namespace
+
+const Command& ImportCommand() {
+    static const Command command{
+        "import",
+        "merge another catalogue into a catalogue",
+        "Usage: zvxcat import FILE SOURCE (--under FOLDERPATH | --as-root)\n"
+        "Merges the catalogue SOURCE (a .zvx file, left as it is) into the catalogue FILE,\n"
+        "below the folder FOLDERPATH or at the root. The imported folders get new IDs,\n"
+        "counting on above the highest of FILE. A top folder of SOURCE whose name is\n"
+        "taken at that place (compared exactly) gets \" (2)\" appended until it is free,\n"
+        "and imported descriptions begin with the path of FOLDERPATH. Entries of a folder\n"
+        "SOURCE does not have join the folder of the entry before them. Prints the\n"
+        "numbers of folders and entries merged on stderr.\n"
+        "  --under FOLDERPATH  the folder to import below; it must exist. FOLDERPATH has\n"
+        "                      \\ or / between the names, compared without regard to case\n"
+        "  --as-root           import at the root\n",
+        {"--under=", "--as-root"},
+        CheckImport,
+        RunImport};
+    return command;
+}
+
+}  // namespace zvx::cat
