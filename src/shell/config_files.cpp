@@ -6,7 +6,9 @@
 
 #include "common/app_files.h"
 #include "common/common.h"
+#include "extensions/filter_declarations.h"
 #include "platform/file_error.h"
+#include "platform/file_io.h"
 #include "store/column_setting_file.h"
 
 namespace zvx {
@@ -54,6 +56,25 @@ void PrepareConfigFiles(const Common& common) {
         std::filesystem::create_directory(FindInFolder(common.applicationFolder(), folder), ec);
     WriteIfMissing(common, "Default", DefaultLayout());
     WriteIfMissing(common, "Audio-Short", AudioShortLayout());
+}
+
+void PrepareFilterDeclarations(const Common& common, const std::filesystem::path& programFolder) {
+    std::error_code ec;
+    const std::filesystem::path program = programFolder / kFilterProgramName;
+    if (!std::filesystem::is_regular_file(program, ec))
+        return;
+    const std::filesystem::path plugins = FindInFolder(common.applicationFolder(), kPluginsFolder);
+    for (const FilterDeclarationFile& declaration :
+         BuiltInFilterDeclarations(std::filesystem::absolute(program, ec))) {
+        const std::filesystem::path file = FindInFolder(plugins, declaration.fileName);
+        if (std::filesystem::exists(file, ec) || ec)
+            continue;
+        try {
+            WriteFileBytes(file, 0, declaration.text);
+        } catch (const FileError&) {
+            // A declaration that cannot be written leaves only its filter unlisted.
+        }
+    }
 }
 
 }  // namespace zvx

@@ -121,6 +121,7 @@ void Finish(Common& common, frmMain& main, frmSplash& splash) {
 // fails is told and the start goes on: defaults stand in for what could not be read.
 void PrepareFolderAndSettings(Common& common, const RegistrationEnvironment& registration) {
     PrepareConfigFiles(common);
+    PrepareFilterDeclarations(common, registration.programPath.parent_path());
     RunGuarded(common, [&] { PublishRegistryInfo(common, registration); });
     RemoveLeftoverCommandFile(common);
     RunGuarded(common, [&] { ReadStartPaths(common); });
