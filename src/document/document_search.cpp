@@ -9,6 +9,7 @@
 #include "document/entry_editor.h"
 #include "document/entry_list_model.h"
 #include "document/frmDocument.h"
+#include "exchange/export_prep.h"
 #include "finding/search_preparation.h"
 #include "finding/searcher_rules.h"
 
@@ -21,12 +22,20 @@ void frmDocument::searchmnu_Click() {
         onSearch(caption());
 }
 
+std::optional<SearchFolder> frmDocument::selectedSearchFolder() const {
+    if (const FolderNode* node = selectedNode())
+        return SearchFolder{node->fullPath, node->id()};
+    return std::nullopt;
+}
+
 void frmDocument::SearchInit() {
     Editor_Final_Apply_Changes();
-    std::optional<SearchFolder> folder;
-    if (const FolderNode* node = selectedNode())
-        folder = SearchFolder{node->fullPath, node->id()};
-    zvx::SearchInit(common_, cfn(), common_.searchSplitMode, folder);
+    zvx::SearchInit(common_, cfn(), common_.searchSplitMode, selectedSearchFolder());
+}
+
+void frmDocument::prepareExport(ExportSource source) {
+    Editor_Final_Apply_Changes();
+    PrepareExportFile(common_, cfn(), source, selectedSearchFolder(), ExportFilePath(common_));
 }
 
 bool frmDocument::showSearchHit(std::string_view folderText, std::string_view tag) {

@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,7 @@
 #include "document/list_sorting.h"
 #include "document/selection_facts.h"
 #include "document/show_entries.h"
+#include "exchange/export_prep.h"
 
 class QLabel;
 class QListView;
@@ -105,6 +107,10 @@ class frmDocument : public QWidget, public DocumentView {
     // Prepares the search files from the working copy, the split mode and the selected
     // folder. Pending edits of the editor are written first, so the search sees them.
     void SearchInit();
+    // exportall_Click, exportsel_Click, exportsub_Click without their dialog: pending
+    // edits written, then export.tmp made from the whole, the selected folder or its
+    // sub-tree.
+    void prepareExport(ExportSource source);
     // A jump from the search window: the first folder whose FullPath and "\" are
     // `folderText` is selected and listed, the rows whose tag is `tag` are selected and
     // the first of them shown, and an editor on show goes to the selected entries.
@@ -150,6 +156,7 @@ class frmDocument : public QWidget, public DocumentView {
     bool applyEditorChanges(std::vector<std::string>* selectedLines = nullptr);
     void selectLines(const std::vector<std::string>& lines);
     bool editorOnShow() const;
+    std::optional<SearchFolder> selectedSearchFolder() const;
     std::vector<int> selectedRowNumbers() const;
     std::vector<std::string_view> editedLines() const;
     void forgetChanges();

@@ -71,7 +71,7 @@ void ExtensionHost::fireFor(const std::string& eventName, const ExtensionDeclara
         return;
     RunGuarded(common_, [&] {
         if (!handedOver)
-            WriteHandOverFiles(common_, eventName, windows_.handOverFacts());
+            HandOver(eventName);
         handedOver = true;
         pluginHalted = false;
         common_.screen().status(ExecutingText(plugIn.exe));
@@ -80,10 +80,14 @@ void ExtensionHost::fireFor(const std::string& eventName, const ExtensionDeclara
     });
 }
 
+void ExtensionHost::HandOver(const std::string& eventName) {
+    WriteHandOverFiles(common_, eventName, windows_.handOverFacts());
+}
+
 void ExtensionHost::AddOnStart(const std::string& callString) {
     ClearLockFile(common_);
     const AddOnCall call = SplitAddOnCall(callString);
-    WriteHandOverFiles(common_, kUserCallEvent, windows_.handOverFacts());
+    HandOver(kUserCallEvent);
     windows_.repaintActive();
     pluginHalted = false;
     common_.screen().status(ExecutingText(call.command));

@@ -53,6 +53,9 @@ class ExtensionHost {
     // Runs the add-on of a call string, then its event calls (also after a timeout, and
     // at once for the wait mode "no"; never after a refused timeout).
     void AddOnStart(const std::string& callString);
+    // Writes the hand-over files for the event without starting anything, as the
+    // exchange dialogs do before they run a filter.
+    void HandOver(const std::string& eventName);
     // The event calls of a list; an unknown name is told and the others run.
     void EventStart(const std::string& events, const std::string& command);
     // Whether the plug-in has created the lock file; if so it has halted.

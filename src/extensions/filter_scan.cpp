@@ -7,6 +7,7 @@
 #include "common/field_text.h"
 #include "common/numeric_value.h"
 #include "common/text_case.h"
+#include "extensions/addon_call.h"
 #include "extensions/declaration.h"
 #include "extensions/extension_files.h"
 
@@ -22,6 +23,7 @@ struct FilterDeclaration {
     std::string copyright;
     std::string version;
     std::string suffixes;  // the "<suffix>" block's lines, upper-cased, joined by blanks
+    bool fast = false;     // a line begins "<modal>fast"
 };
 
 void TakeTag(std::string_view trimmed, std::string_view tag, std::string& value) {
@@ -53,6 +55,7 @@ FilterDeclaration ParseFilter(const std::vector<std::string>& lines) {
         TakeTag(trimmed, "<description>", d.description);
         TakeTag(trimmed, "<copyright>", d.copyright);
         TakeTag(trimmed, "<version>", d.version);
+        d.fast = d.fast || TagAtStart(trimmed, "<modal>fast");
         if (TagAtStart(trimmed, "<suffix>"))
             d.suffixes = ReadSuffixBlock(lines, next);
     }
@@ -97,6 +100,12 @@ std::vector<FilterRow> ScanFilters(const Common& common, FilterKind kind) {
             rows.push_back({d.name, name, d.requiredVersion});
     }
     return rows;
+}
+
+std::string FilterCallString(const Common& common, const std::string& fileName) {
+    const FilterDeclaration d =
+        ParseFilter(ReadDeclarationLines(FindInFolder(PluginsFolder(common), fileName)));
+    return AddOnCallString(d.fast ? "fast" : "yes", "", d.exe);
 }
 
 FilterDetails ReadFilterDetails(const Common& common, FilterKind kind,

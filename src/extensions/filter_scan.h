@@ -30,6 +30,11 @@ struct FilterRow {
 // through the Screen.
 std::vector<FilterRow> ScanFilters(const Common& common, FilterKind kind);
 
+// The call string that runs an external filter by the add-on protocol: the wait mode
+// "fast" when a line of the declaration begins "<modal>fast", otherwise "yes"; no event
+// calls; the declaration's "<exe>".
+std::string FilterCallString(const Common& common, const std::string& fileName);
+
 // The details pane of a filter's row.
 struct FilterDetails {
     std::string exe;  // export filters only

@@ -69,6 +69,8 @@ class searcher : public QWidget {
     std::function<void(const std::string&)> onSummary;
     std::function<void(const std::string&)> coreCalls;
     std::function<void(const QPoint&)> onListPopup;
+    // Shows the export dialog over PLUGINS/export.tmp ("Export..." has filled it).
+    std::function<void()> onExport;
     // Ends the process after a search overflowed its tables, with the overflow's text.
     // By default the error box tells it and the process ends with exit status 1.
     std::function<void(const std::string&)> endProcess;

@@ -124,7 +124,10 @@ void searcher::FlatBttn1_Click() {
 
 // The export dialog takes export.tmp; until it exists the copy is all there is.
 void searcher::Command4_Click() {
-    run([this] { CopyResultForExport(common_); });
+    run([this] {
+        if (CopyResultForExport(common_) && onExport)
+            onExport();
+    });
 }
 
 void searcher::FlatBttn4_Click() {

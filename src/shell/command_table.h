@@ -49,6 +49,10 @@ enum class Command {
     EntryEditAll,
     ViewSaveColumns,
     EntryExecute,
+    DocumentExport,
+    ExportSelection,
+    ExportSelSub,
+    DocumentImport,
     SearchResultsExecute,
     RecentFile,     // the argument is the rest of the name: the number of the menu entry
     ColumnSetting,  // the argument is the number of the column-setting menu entry

@@ -209,6 +209,18 @@ void frmMain::documentCommand(Command command) {
         case Command::FolderDelete:
             document->delFolder_Click();
             break;
+        case Command::DocumentExport:
+            exportFrom(*document, ExportSource::Document);
+            break;
+        case Command::ExportSelection:
+            exportFrom(*document, ExportSource::Folder);
+            break;
+        case Command::ExportSelSub:
+            exportFrom(*document, ExportSource::SubTree);
+            break;
+        case Command::DocumentImport:
+            showImport(*document);
+            break;
         case Command::FolderExpandSel:
             document->expselmnu_Click();
             break;
@@ -306,6 +318,7 @@ void frmMain::showSearcher(const std::string& caption) {
         searcher_->onActivated = [this] { disableDocumentMenus(); };
         searcher_->onSummary = [this](const std::string& text) { setSummary(ToQString(text)); };
         searcher_->coreCalls = [this](const std::string& name) { ZVXCoreCalls(name); };
+        searcher_->onExport = [this] { showExport(); };
         searcher_->onListPopup = [this](const QPoint& at) {
             if (auto* popup = findChild<QMenu*>("viewrootmnu0"))
                 popup->popup(at);

@@ -10,6 +10,8 @@
 
 #include "document/document_lifecycle.h"
 #include "document/document_view.h"
+#include "exchange/exchange_runs.h"
+#include "exchange/export_prep.h"
 #include "extensions/extension_host.h"
 #include "shell/command_table.h"
 #include "shell/estimator.h"
@@ -114,6 +116,12 @@ class frmMain : public QMainWindow, public DocumentWindows, private ExtensionWin
     void repaintActive() override;
     void showWait(const std::string& exeName, const WaitMode& wait) override;
     void eventCall(AddOnEventCall call) override;
+    // The exchange dialogs: export.tmp made from the document (the whole, the selected
+    // folder or its sub-tree), then the export dialog; the import dialog on the document.
+    void exportFrom(frmDocument& document, ExportSource source);
+    void showExport();
+    void showImport(frmDocument& document);
+    FilterRunner filterRunner();
     // entryaddons(N): the add-on of the menu item of this key.
     void runAddOnItem(const std::string& key);
     QMenu* addOnParent(const std::string& key);

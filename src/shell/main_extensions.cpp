@@ -12,6 +12,7 @@
 #include "common/common.h"
 #include "document/entry_list_model.h"
 #include "document/frmDocument.h"
+#include "exchange/exchange_forms.h"
 #include "extensions/addon_menus.h"
 #include "extensions/plugrun.h"
 #include "finding/searcher.h"
@@ -136,6 +137,28 @@ void frmMain::MenuMakerYo() {
             noplan_->show();
     }
     status("");
+}
+
+FilterRunner frmMain::filterRunner() {
+    return [this](const std::string& eventName, const std::string& call) {
+        extensions_->HandOver(eventName);
+        extensions_->AddOnStart(call);
+    };
+}
+
+void frmMain::exportFrom(frmDocument& document, ExportSource source) {
+    document.prepareExport(source);
+    showExport();
+}
+
+void frmMain::showExport() {
+    exportForm form(common_, filterRunner(), this);
+    form.exec();
+}
+
+void frmMain::showImport(frmDocument& document) {
+    importForm form(common_, document, filterRunner(), this);
+    form.exec();
 }
 
 void frmMain::runAddOnItem(const std::string& key) {

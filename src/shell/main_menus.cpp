@@ -36,6 +36,7 @@ void frmMain::buildMenus() {
     addEntry(fileMenu_, "mnufile2", "&Save", "document-save", QKeySequence::Save);
     addEntry(fileMenu_, "mnufile3", "Save &As...", "document-save-as", QKeySequence::SaveAs);
     addEntry(fileMenu_, "mnufile4", "&Close", "document-close", QKeySequence::Close);
+    addEntry(fileMenu_, "mnufile5", "E&xport...", "document-export");
     recentTOP_ = fileMenu_->addSeparator();
     recentTOP_->setObjectName("recentTOP");
     fileMenu_->addSeparator();
@@ -96,6 +97,12 @@ void frmMain::buildMenus() {
     addEntry(folders, "pathmnu1", "&Properties...", "document-properties");
     addEntry(folders, "pathmnu3", "&Move...");
     addEntry(folders, "pathmnu4", "&Delete", "edit-delete");
+    folders->addSeparator();
+    addEntry(folders, "pathmnu6", "&Import...", "document-import");
+    QMenu* exports = folders->addMenu("E&xport");
+    exports->setObjectName("expmnu");
+    addEntry(exports, "expmnu0", "Selected &Folder...");
+    addEntry(exports, "expmnu1", "Selected Folder with &Sub-Folders...");
     folders->addSeparator();
     addEntry(folders, "expandmnu0", "&Expand Selected");
     addEntry(folders, "expandmnu1", "&Collapse Selected");
