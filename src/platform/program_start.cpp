@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstring>
 
 #include "platform/file_error.h"
@@ -65,6 +66,17 @@ int ProgramStarts::start(const std::vector<std::string>& arguments,
                         "Cannot start " + arguments[0] + ": " + std::strerror(err));
     started_.push_back(pid);
     return pid;
+}
+
+int ProgramStarts::waitForExit(int pid) {
+    if (std::erase(started_, pid) == 0)
+        return -1;
+    int status = 0;
+    while (waitpid(pid, &status, 0) < 0) {
+        if (errno != EINTR)
+            return -1;
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 void ProgramStarts::reapEnded() {

@@ -23,6 +23,10 @@ class ProgramStarts {
     int start(const std::vector<std::string>& arguments, const std::filesystem::path& workingFolder,
               const std::vector<std::pair<std::string, std::string>>& environment);
 
+    // Waits until the program of this process ID has ended; its exit status, or -1 when
+    // it ended by a signal or is not one of ours.
+    int waitForExit(int pid);
+
   private:
     void reapEnded();
 

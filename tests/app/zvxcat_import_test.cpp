@@ -62,5 +62,32 @@ TEST(ZvxcatImport, RefusalsLeaveTheCatalogueAsItWas) {
     EXPECT_EQ(ReadAll(box / "c.zvx"), kTarget);
 }
 
+TEST(ZvxcatImport, AFilterMakesTheCatalogueOrLeavesNothingAndChangesNothing) {
+    ToolSandbox box;
+    const auto plugins = box.appFolder() / "PLUGINS";
+    std::filesystem::create_directories(plugins);
+    // A filter that takes a catalogue as it is, and one that gives up.
+    WriteAll(plugins / "pass.sh",
+             "#!/bin/sh\ncp \"$ZVX_FILTER_TARGET\" \"$ZVX_HOME/PLUGINS/imported.tmp\"\n");
+    WriteAll(plugins / "quit.sh", "#!/bin/sh\nexit 3\n");
+    std::filesystem::permissions(plugins / "pass.sh", std::filesystem::perms::owner_all);
+    std::filesystem::permissions(plugins / "quit.sh", std::filesystem::perms::owner_all);
+    WriteAll(plugins / "pass.zvi", "<name>Pass\n<exe>pass.sh\n");
+    WriteAll(plugins / "quit.zvi", "<name>Quit\n<exe>quit.sh\n");
+    WriteAll(box / "c.zvx", kTarget);
+    WriteAll(box / "s.data", kSource);
+
+    ToolResult passed = box.run({"import", "c.zvx", "s.data", "--as-root", "--filter", "Pass"});
+    EXPECT_EQ(passed.status, 0) << passed.err;
+    EXPECT_NE(ReadAll(box / "c.zvx").find("Rock\\Old\\\r\n"), std::string::npos);
+
+    WriteAll(box / "c.zvx", kTarget);
+    ToolResult quit = box.run({"import", "c.zvx", "s.data", "--as-root", "--filter", "Quit"});
+    EXPECT_EQ(quit.status, 1);
+    EXPECT_EQ(quit.err.substr(0, quit.err.find('\n')), "zvxcat: External Import-Filter Canceled!");
+    EXPECT_EQ(box.run({"import", "c.zvx", "s.data", "--as-root", "--filter", "Nope"}).status, 1);
+    EXPECT_EQ(ReadAll(box / "c.zvx"), kTarget);
+}
+
 }  // namespace
 }  // namespace zvx::test

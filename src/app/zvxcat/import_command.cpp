@@ -3,6 +3,8 @@
 #include "command_list.h"
 #include "common/common.h"
 #include "document/document_path.h"
+#include "exchange/exchange_runs.h"
+#include "exchange/filter_program.h"
 #include "exchange/merge.h"
 #include "folder_command_support.h"
 #include "platform/file_io.h"
@@ -26,19 +28,56 @@ std::string TargetPathArgument(const Arguments& arguments, const FolderCatalogue
     return tree.nodes[RequireFolder(tree, *under, catalogue.file())].fullPath + "\\";
 }
 
-// The built-in importer: the source is copied to imported.tmp, which the merge consumes,
-// and the merge runs on the working copy, which replaces FILE only when it succeeded.
-void RunImport(const Arguments& arguments, Common& common, std::ostream&) {
-    FolderCatalogue catalogue(common, arguments.positional[0]);
-    const std::filesystem::path source = NativePathArgument(arguments.positional[1]);
+// The built-in importer: the source, which must be a catalogue, copied to imported.tmp.
+std::filesystem::path BuiltInSource(Common& common, const std::filesystem::path& source,
+                                    const std::filesystem::path& file) {
     if (!HasZvxExtension(source.string())) {
         common.screen().message("Error", "The file MUST have the extension \".zvx\" !",
                                 MsgButtons::OkOnly, MsgIcon::Critical);
-        RefuseChange(catalogue.file());
+        RefuseChange(file);
     }
-    const std::string targetPath = TargetPathArgument(arguments, catalogue);
-    const std::filesystem::path imported = common.workFile("imported.tmp");
+    const std::filesystem::path imported = common.workFile(kImportedFileName);
     CopyFileBytes(source, imported);
+    return imported;
+}
+
+// An external filter: what it makes of the source, left as imported.tmp in its home.
+std::filesystem::path FilterSource(Common& common, const std::string& filterFile,
+                                   const std::filesystem::path& source,
+                                   const std::filesystem::path& file) {
+    const std::filesystem::path home = common.workFile("filter");
+    const std::filesystem::path imported = FilterPluginsFolder(home) / kImportedFileName;
+    const int status = RunFilterProgram(common, filterFile, "import", home, source);
+    std::error_code ec;
+    if (std::filesystem::exists(imported, ec))
+        return imported;
+    common.screen().message("", "External Import-Filter Canceled!", MsgButtons::OkOnly,
+                            MsgIcon::Information);
+    std::cerr << "zvxcat: the filter ended with status " << status << "\n";
+    RefuseChange(file);
+}
+
+// The file the merge consumes: the source itself, or what the filter of --filter made.
+std::filesystem::path ImportSource(const Arguments& arguments, Common& common,
+                                   const std::filesystem::path& file) {
+    const std::filesystem::path source = NativePathArgument(arguments.positional[1]);
+    const std::string* name = arguments.value("--filter");
+    if (name == nullptr)
+        return BuiltInSource(common, source, file);
+    const std::optional<std::string> filterFile =
+        FilterFileNamed(common, FilterKind::Import, *name);
+    if (!filterFile)
+        throw ToolFailure("no import filter is named \"" + *name + "\"");
+    if (*filterFile == kBuiltInFilterFile)
+        return BuiltInSource(common, source, file);
+    return FilterSource(common, *filterFile, source, file);
+}
+
+// The merge runs on the working copy, which replaces FILE only when it succeeded.
+void RunImport(const Arguments& arguments, Common& common, std::ostream&) {
+    FolderCatalogue catalogue(common, arguments.positional[0]);
+    const std::string targetPath = TargetPathArgument(arguments, catalogue);
+    const std::filesystem::path imported = ImportSource(arguments, common, catalogue.file());
     common.screen().status("IMPORT IN PROGRESS...");
     MergeResult result = MergeCatalogue(common, catalogue.openWorkingCopy(), imported, targetPath);
     common.screen().status("");
@@ -55,7 +94,7 @@ const Command& ImportCommand() {
     static const Command command{
         "import",
         "merge another catalogue into a catalogue",
-        "Usage: zvxcat import FILE SOURCE (--under FOLDERPATH | --as-root)\n"
+        "Usage: zvxcat import FILE SOURCE (--under FOLDERPATH | --as-root) [--filter NAME]\n"
         "Merges the catalogue SOURCE (a .zvx file, left as it is) into the catalogue FILE,\n"
         "below the folder FOLDERPATH or at the root. The imported folders get new IDs,\n"
         "counting on above the highest of FILE. A top folder of SOURCE whose name is\n"
@@ -65,8 +104,10 @@ const Command& ImportCommand() {
         "numbers of folders and entries merged on stderr.\n"
         "  --under FOLDERPATH  the folder to import below; it must exist. FOLDERPATH has\n"
         "                      \\ or / between the names, compared without regard to case\n"
-        "  --as-root           import at the root\n",
-        {"--under=", "--as-root"},
+        "  --as-root           import at the root\n"
+        "  --filter NAME       the import filter of this name (as `zvxcat extensions\n"
+        "                      --kind import` lists it) makes the catalogue of SOURCE\n",
+        {"--under=", "--as-root", "--filter="},
         CheckImport,
         RunImport};
     return command;
