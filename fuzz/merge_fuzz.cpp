@@ -1,8 +1,9 @@
-// Any bytes, taken as two catalogue files, go through an import's merge. The input is
-// the target, then the marker "<source>" and the source; the first byte picks whether the
-// source goes to the root or below the target's first folder. It may fail only with
-// FileError. A merge that ran keeps every folder of both files, and its entry offset is
-// the TOC's end; a refused one leaves the target as it was.
+// Any bytes, taken as two catalogue files, go through an import's merge, and the merged
+// file through the export's "optimize" mode. The input is the target, then the marker
+// "<source>" and the source; the first byte picks whether the source goes to the root or
+// below the target's first folder. It may fail only with FileError. A merge that ran
+// keeps every folder of both files, and its entry offset is the TOC's end; a refused one
+// leaves the target as it was. The optimized file's entry offset is its TOC's end.
 
 #include <cstddef>
 #include <cstdint>
@@ -10,6 +11,7 @@
 #include <string_view>
 
 #include "common/common.h"
+#include "exchange/export_toc.h"
 #include "exchange/merge.h"
 #include "fuzz_check.h"
 #include "fuzz_folder.h"
@@ -36,6 +38,13 @@ std::string TargetPath(const Path& target, bool below) {
     return below && !groups.empty() ? groups.front().path : std::string();
 }
 
+void Optimize(zvx::Common& common, const Path& merged) {
+    const Path file = zvx::fuzz::FuzzFolder() / "export.tmp";
+    zvx::ApplyExportToc(common, file, merged, zvx::ExportTocMode::Optimize, "");
+    Require(zvx::ReadEntryOffset(file) == zvx::FindTocEnd(file),
+            "the optimized entry offset is the TOC's end");
+}
+
 void Merge(zvx::Common& common, std::string_view bytes) {
     const Path& folder = zvx::fuzz::FuzzFolder();
     const Path target = folder / "target.zvx";
@@ -57,6 +66,7 @@ void Merge(zvx::Common& common, std::string_view bytes) {
             "the merged entry offset is the TOC's end");
     Require(zvx::ReadTocGroups(target).size() == targetFolders + result.folders,
             "the merged TOC holds the folders of both files");
+    Optimize(common, target);
 }
 
 }  // namespace
