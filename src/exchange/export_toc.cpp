@@ -13,6 +13,7 @@
 #include "finding/line_blocks.h"
 #include "finding/search_run.h"
 #include "platform/file_io.h"
+#include "platform/mapped_file.h"
 #include "store/catalogue_format.h"
 #include "store/entry_offset.h"
 #include "store/temp_file.h"
@@ -187,17 +188,11 @@ void AddAncestors(const TocIndex& toc, UsedIds& used) {
 }
 
 // Appends every entry line with CR LF; with `newId` its first eight characters replaced.
-// Lines known to end in CR LF already are copied a block at a time.
-void CopyEntryLines(const EntrySection& entries, AppendWriter& to, bool plain,
-                    std::string_view newId = {}) {
+void CopyEntryLines(const EntrySection& entries, AppendWriter& to, std::string_view newId = {}) {
     LineBlocks blocks(entries.file, entries.start);
     std::string_view block;
     std::string changed;
     while (blocks.next(block)) {
-        if (plain && newId.empty()) {
-            to.write(block);
-            continue;
-        }
         ForEachLine(block, [&](std::string_view line) {
             if (newId.empty()) {
                 to.writeLine(line);
@@ -222,7 +217,7 @@ void MakeNewToc(Common& common, const EntrySection& entries, const std::filesyst
         out.writeLine("Exported with ZVX (" + std::string(today) + ")-");
         out.writeLine(kExportedFolderId);
         out.writeLine("");
-        CopyEntryLines(entries, out, false, kExportedFolderId);
+        CopyEntryLines(entries, out, kExportedFolderId);
         out.close();
     }
     ReplaceFromTempFile(common, target);
@@ -253,9 +248,13 @@ void OptimizeToc(Common& common, const EntrySection& entries, const std::filesys
         }
         screen.status(kCopyingEntries);
         out.writeLine("");
-        CopyEntryLines(entries, out, plain);
+        if (!plain)
+            CopyEntryLines(entries, out);
         out.close();
     }
+    // Lines that end in CR LF already are copied as they stand, inside the kernel.
+    if (plain)
+        AppendFileRange(entries.file, entries.start, rebuilt);
     UpdateEntryOffset(common, rebuilt);
     ReplaceFile(rebuilt, target);
     common.setProgress(0);

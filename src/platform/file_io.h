@@ -21,6 +21,9 @@ void TouchFile(const std::filesystem::path& path);
 void DeleteFileIfExists(const std::filesystem::path& path);
 uint64_t FileLength(const std::filesystem::path& path);
 void CopyFileBytes(const std::filesystem::path& from, const std::filesystem::path& to);
+// Appends the bytes of `from` from the 0-based `offset` to its end to the end of `to`.
+void AppendFileRange(const std::filesystem::path& from, uint64_t offset,
+                     const std::filesystem::path& to);
 
 // Replaces `target` by `source`, which is gone afterwards. Crash-safe: the new content
 // is written beside the target, flushed to disk, and renamed over it, so that at every
