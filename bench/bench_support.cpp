@@ -1,8 +1,10 @@
 #include "bench_support.h"
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
 #include <system_error>
@@ -78,6 +80,48 @@ std::vector<std::string> FolderRows(const fs::path& catalogue, const std::string
     std::vector<std::string> rows;
     ListFolderEntries(catalogue, folderId, [&](std::string_view line) { rows.emplace_back(line); });
     return rows;
+}
+
+double CpuMilliseconds(int who) {
+    rusage usage{};
+    getrusage(who, &usage);
+    auto ms = [](const timeval& t) { return t.tv_sec * 1e3 + t.tv_usec / 1e3; };
+    return ms(usage.ru_utime) + ms(usage.ru_stime);
+}
+
+Cost Medians(const std::vector<Cost>& costs) {
+    std::vector<double> wall, cpu;
+    for (const Cost& c : costs) {
+        wall.push_back(c.wall);
+        cpu.push_back(c.cpu);
+    }
+    return {Median(wall), Median(cpu)};
+}
+
+Cost ShellCost(const std::string& command) {
+    return Measure(RUSAGE_CHILDREN, [&] { RunShell(command); });
+}
+
+void Report(const std::vector<Timing>& timings) {
+    std::printf("\n%-20s %8s | %9s %9s %6s | %9s %9s %6s | %9s %6s\n", "", "entries", "tool wall",
+                "own wall", "ratio", "tool cpu", "own cpu", "ratio", "us/entry", "growth");
+    for (const Timing& t : timings) {
+        auto perEntry = [](const Timing& x) {
+            return 1000 * x.own.cpu / static_cast<double>(x.entries);
+        };
+        double growth = 0;
+        for (const Timing& small : timings) {
+            if (small.name == t.name && small.entries < t.entries)
+                growth = perEntry(t) / perEntry(small);
+        }
+        std::printf("%-20s %8llu | %9.1f %9.1f %6.2f | %9.1f %9.1f %6.2f | %9.4f ", t.name.c_str(),
+                    static_cast<unsigned long long>(t.entries), t.tool.wall, t.own.wall,
+                    t.own.wall / t.tool.wall, t.tool.cpu, t.own.cpu, t.ratio(), perEntry(t));
+        if (growth > 0)
+            std::printf("%6.2f  (target cpu ratio <= %.1f)\n", growth, t.target);
+        else
+            std::printf("%6s\n", "-");
+    }
 }
 
 }  // namespace zvx::bench

@@ -38,6 +38,43 @@ double Milliseconds(Step step) {
 
 double Median(std::vector<double> times);
 
+// Wall and processor milliseconds of one step.
+struct Cost {
+    double wall = 0;
+    double cpu = 0;
+};
+
+// Processor milliseconds, user and system, used so far by `who` (RUSAGE_SELF or
+// RUSAGE_CHILDREN).
+double CpuMilliseconds(int who);
+
+template <typename Step>
+Cost Measure(int who, Step step) {
+    const double before = CpuMilliseconds(who);
+    const double wall = Milliseconds(step);
+    return {wall, CpuMilliseconds(who) - before};
+}
+
+Cost Medians(const std::vector<Cost>& costs);
+
+// A shell command's cost, with the processor time of its processes.
+Cost ShellCost(const std::string& command);
+
+// One operation measured against a tool at one catalogue size.
+struct Timing {
+    std::string name;
+    uint64_t entries = 0;
+    Cost tool;
+    Cost own;
+    double target = 0;  // the highest processor-time ratio allowed
+    double ratio() const { return own.cpu / tool.cpu; }
+};
+
+// The table of timings: times and ratios, the processor time an entry, and its growth
+// from the smaller catalogue of the same operation, so that a cost growing faster than
+// the file shows.
+void Report(const std::vector<Timing>& timings);
+
 std::string ShellQuoted(const std::string& text);
 
 // Runs `command` by the shell with LC_ALL=C; throws when its exit status is not 0.

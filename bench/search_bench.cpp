@@ -35,9 +35,12 @@
 namespace {
 
 namespace fs = std::filesystem;
-using zvx::bench::Median;
-using zvx::bench::Milliseconds;
+using zvx::bench::Cost;
+using zvx::bench::Measure;
+using zvx::bench::Medians;
+using zvx::bench::ShellCost;
 using zvx::bench::ShellQuoted;
+using zvx::bench::Timing;
 
 constexpr int kRounds = 9;
 constexpr double kFilterTarget = 1.5;
@@ -56,54 +59,12 @@ constexpr FilterCase kFilterCases[] = {{"scan, few hits", 0, "IMG_4321"},
                                        {"Filename, few hits", 1, "IMG_4321"},
                                        {"Artist, many hits", 10, "Kestrel"}};
 
-// Wall and processor milliseconds of one step.
-struct Cost {
-    double wall = 0;
-    double cpu = 0;
-};
-
-struct Timing {
-    std::string name;
-    uint64_t entries = 0;
-    Cost tool;
-    Cost own;
-    double target = 0;
-    double ratio() const { return own.cpu / tool.cpu; }
-};
-
-double CpuMs(int who) {
-    rusage usage{};
-    getrusage(who, &usage);
-    auto ms = [](const timeval& t) { return t.tv_sec * 1e3 + t.tv_usec / 1e3; };
-    return ms(usage.ru_utime) + ms(usage.ru_stime);
-}
-
-template <typename Step>
-Cost Measure(int who, Step step) {
-    const double before = CpuMs(who);
-    const double wall = Milliseconds(step);
-    return {wall, CpuMs(who) - before};
-}
-
-Cost Medians(const std::vector<Cost>& costs) {
-    std::vector<double> wall, cpu;
-    for (const Cost& c : costs) {
-        wall.push_back(c.wall);
-        cpu.push_back(c.cpu);
-    }
-    return {Median(wall), Median(cpu)};
-}
-
 fs::path CatalogueOf(uint64_t entries) {
     const fs::path file =
         fs::path(ZVX_BENCH_FOLDER) / (entries == 1000000 ? "listing_1m.zvx" : "listing_100k.zvx");
     if (!fs::exists(file))
         zvx::bench::GenerateCatalogue(file, {.entries = entries, .folders = entries / 500});
     return file;
-}
-
-Cost ShellCost(const std::string& command) {
-    return Measure(RUSAGE_CHILDREN, [&] { zvx::bench::RunShell(command); });
 }
 
 // grep writes to a real file: given /dev/null as its output it stops at the first match.
@@ -145,28 +106,6 @@ Timing TimeSplit(zvx::Common& common, const fs::path& catalogue, uint64_t entrie
     return {"split preparation", entries, Medians(tool), Medians(own), kSplitTarget};
 }
 
-void Report(const std::vector<Timing>& timings) {
-    std::printf("\n%-20s %8s | %9s %9s %6s | %9s %9s %6s | %9s %6s\n", "", "entries", "tool wall",
-                "own wall", "ratio", "tool cpu", "own cpu", "ratio", "us/entry", "growth");
-    for (const Timing& t : timings) {
-        auto perEntry = [](const Timing& x) {
-            return 1000 * x.own.cpu / static_cast<double>(x.entries);
-        };
-        double growth = 0;
-        for (const Timing& small : timings) {
-            if (small.name == t.name && small.entries < t.entries)
-                growth = perEntry(t) / perEntry(small);
-        }
-        std::printf("%-20s %8llu | %9.1f %9.1f %6.2f | %9.1f %9.1f %6.2f | %9.4f ", t.name.c_str(),
-                    static_cast<unsigned long long>(t.entries), t.tool.wall, t.own.wall,
-                    t.own.wall / t.tool.wall, t.tool.cpu, t.own.cpu, t.ratio(), perEntry(t));
-        if (growth > 0)
-            std::printf("%6.2f  (target cpu ratio <= %.1f)\n", growth, t.target);
-        else
-            std::printf("%6s\n", "-");
-    }
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -188,7 +127,7 @@ int main(int argc, char** argv) {
                 timings.push_back(TimeFilter(common, catalogue, entries, c, scratch.path()));
             timings.push_back(TimeSplit(common, catalogue, entries, scratch.path()));
         }
-        Report(timings);
+        zvx::bench::Report(timings);
         for (const Timing& t : timings) {
             if (t.entries == 1000000 && t.ratio() > t.target)
                 return 1;
