@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "extensions/filter_declarations.h"
 #include "support/catalogue_bytes.h"
 #include "tool_sandbox.h"
 
@@ -63,6 +64,37 @@ TEST(ZvxcatExport, ExportsASearchResultLikeAnyCatalogue) {
     ASSERT_EQ(e.box.run({"search", "c.zvx", "concert", "--out", "found.zvx"}).status, 0);
     ASSERT_EQ(e.box.run({"export", "found.zvx", "out", "--toc", "optimize"}).status, 0);
     EXPECT_EQ(ReadAll(e.box / "out.zvx"), CatalogueBytes({kLive, kMusic}, {kConcert}));
+}
+
+TEST(ZvxcatExport, AFilterWritesOutInItsFormatAndTheCsvComesBackByImport) {
+    ExportBox env;
+    const auto plugins = env.box.appFolder() / "PLUGINS";
+    std::filesystem::create_directories(plugins);
+    for (const FilterDeclarationFile& file : BuiltInFilterDeclarations(ZVXFILTER_PATH))
+        WriteAll(plugins / file.fileName, file.text);
+    WriteAll(plugins / "fail.sh", "#!/bin/sh\nexit 4\n");
+    std::filesystem::permissions(plugins / "fail.sh", std::filesystem::perms::owner_all);
+    WriteAll(plugins / "fail.zve", "<name>Fail\n<exe>fail.sh\n");
+
+    const ToolResult csv = env.box.run({"export", "c.zvx", "shelf.csv", "--in", "Music", "--sub",
+                                        "--filter", "CSV (Spreadsheet)"});
+    ASSERT_EQ(csv.status, 0) << csv.err;
+    const std::string table = ReadAll(env.box / "shelf.csv");
+    EXPECT_NE(table.find("concert.mp3"), std::string::npos);
+    EXPECT_EQ(table.find("note.txt"), std::string::npos);
+
+    WriteAll(env.box / "d.zvx", CatalogueBytes({}, {}));
+    const ToolResult back =
+        env.box.run({"import", "d.zvx", "shelf.csv", "--as-root", "--filter", "CSV (Spreadsheet)"});
+    ASSERT_EQ(back.status, 0) << back.err;
+    const std::string merged = ReadAll(env.box / "d.zvx");
+    EXPECT_NE(merged.find("Music\\Live\\\r\n"), std::string::npos);
+    EXPECT_NE(merged.find("\x01"
+                          "concert.mp3\x01"),
+              std::string::npos);
+
+    EXPECT_EQ(env.box.run({"export", "c.zvx", "x.csv", "--filter", "Fail"}).status, 1);
+    EXPECT_EQ(env.box.run({"export", "c.zvx", "x.csv", "--filter", "Nope"}).status, 1);
 }
 
 }  // namespace
