@@ -5,8 +5,7 @@
 namespace zvx {
 
 void ShowWrongExtension(const Common& common) {
-    common.screen().message("Error", "The file MUST have the extension \".zvx\" !",
-                            MsgButtons::OkOnly, MsgIcon::None);
+    common.screen().message("Error", kWrongExtensionText, MsgButtons::OkOnly, MsgIcon::None);
 }
 
 void ShowTooManyDocuments(const Common& common) {

@@ -7,6 +7,8 @@ namespace zvx {
 
 class Common;
 
+inline constexpr const char* kWrongExtensionText = "The file MUST have the extension \".zvx\" !";
+
 // A path that does not end in ".zvx".
 void ShowWrongExtension(const Common& common);
 // All slots of the document table are used.

@@ -3,7 +3,6 @@
 #include "common/app_files.h"
 #include "common/common.h"
 #include "common/file_dialog_modes.h"
-#include "common/text_case.h"
 #include "exchange/export_prep.h"
 #include "exchange/export_target.h"
 #include "exchange/merge.h"
@@ -14,15 +13,6 @@
 namespace zvx {
 
 namespace {
-
-// Only a catalogue can be imported, whatever the dialog let through.
-bool IsCatalogueName(Screen& screen, const std::string& chosen) {
-    if (LowerCase(std::filesystem::path(chosen).extension().string()) == ".zvx")
-        return true;
-    screen.message("Error", "The file MUST have the extension \".zvx\" !", MsgButtons::OkOnly,
-                   MsgIcon::Critical);
-    return false;
-}
 
 // The built-in importer's source: a ".zvx" chosen in the file dialog "import", copied to
 // the import file. False when cancelled or refused.

@@ -3,6 +3,7 @@
 #include "common/common.h"
 #include "common/file_dialog_modes.h"
 #include "common/text_case.h"
+#include "document/document_messages.h"
 #include "platform/catalogue_path.h"
 #include "platform/file_io.h"
 #include "store/split_path.h"
@@ -25,12 +26,16 @@ std::optional<std::string> ExportTargetName(Screen& screen, const std::string& c
     std::string name = chosen;
     if (ExtensionOf(name).empty())
         name += name.ends_with('.') ? "zvx" : ".zvx";
-    if (LowerCase(ExtensionOf(name)) != "zvx") {
-        screen.message("Error", "The file MUST have the extension \".zvx\" !", MsgButtons::OkOnly,
-                       MsgIcon::Critical);
+    if (!IsCatalogueName(screen, name))
         return std::nullopt;
-    }
     return name;
+}
+
+bool IsCatalogueName(Screen& screen, const std::string& path) {
+    if (LowerCase(ExtensionOf(path)) == "zvx")
+        return true;
+    screen.message("Error", kWrongExtensionText, MsgButtons::OkOnly, MsgIcon::Critical);
+    return false;
 }
 
 bool WriteExportTarget(const Common& common, const std::filesystem::path& exportFile,

@@ -10,6 +10,10 @@ namespace zvx {
 class Common;
 class Screen;
 
+// Whether the path names a catalogue: its extension is "zvx" in any case. If not, the
+// exchange's critical box "Error" says so.
+bool IsCatalogueName(Screen& screen, const std::string& path);
+
 // The name the exporter writes for a chosen name: one without extension gets ".zvx",
 // one ending in "." gets "zvx". Any other extension than "zvx" (in any case) is refused
 // with the critical box "Error"; then none.

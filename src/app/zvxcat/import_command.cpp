@@ -2,8 +2,8 @@
 
 #include "command_list.h"
 #include "common/common.h"
-#include "document/document_path.h"
 #include "exchange/exchange_runs.h"
+#include "exchange/export_target.h"
 #include "exchange/filter_program.h"
 #include "exchange/merge.h"
 #include "folder_command_support.h"
@@ -31,11 +31,8 @@ std::string TargetPathArgument(const Arguments& arguments, const FolderCatalogue
 // The built-in importer: the source, which must be a catalogue, copied to imported.tmp.
 std::filesystem::path BuiltInSource(Common& common, const std::filesystem::path& source,
                                     const std::filesystem::path& file) {
-    if (!HasZvxExtension(source.string())) {
-        common.screen().message("Error", "The file MUST have the extension \".zvx\" !",
-                                MsgButtons::OkOnly, MsgIcon::Critical);
+    if (!IsCatalogueName(common.screen(), source.string()))
         RefuseChange(file);
-    }
     const std::filesystem::path imported = common.workFile(kImportedFileName);
     CopyFileBytes(source, imported);
     return imported;
