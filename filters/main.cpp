@@ -2,6 +2,7 @@
 // the application folder with ZVX_HOME set and waits for PLUGINS/extlock.tmp, which it
 // therefore makes last, whatever happened.
 
+#include <unistd.h>
 #include <QApplication>
 #include <QFileDialog>
 
@@ -10,6 +11,7 @@
 #include <iostream>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "common/app_files.h"
 #include "common/text_case.h"
@@ -40,16 +42,33 @@ std::string Env(const char* name) {
     return value ? value : "";
 }
 
-// Creates the lock file when it goes out of scope, so that ZVX ends its wait also after
-// a failure.
-struct LockAtEnd {
-    fs::path plugins;
-    ~LockAtEnd() {
+// Creates the lock file once: when told, or at the latest when it goes out of scope, so
+// that ZVX ends its wait also after a failure.
+class LockAtEnd {
+  public:
+    explicit LockAtEnd(fs::path plugins) : plugins_(std::move(plugins)) {}
+    ~LockAtEnd() { now(); }
+    void now() {
+        if (std::exchange(made_, true))
+            return;
         try {
-            zvx::TouchFile(plugins / "extlock.tmp");
+            zvx::TouchFile(plugins_ / "extlock.tmp");
         } catch (const std::exception& error) {
             std::cerr << "zvxfilter: " << error.what() << "\n";
         }
+    }
+
+  private:
+    fs::path plugins_;
+    bool made_ = false;
+};
+
+// A copy of the export file that is the filter's own while a person chooses the target.
+struct PrivateCopy {
+    fs::path path;
+    ~PrivateCopy() {
+        std::error_code ec;
+        fs::remove(path, ec);
     }
 };
 
@@ -85,11 +104,21 @@ fs::path ChooseFile(int& argc, char** argv, Mode mode) {
     return fs::path(dialog.selectedFiles().first().toStdString());
 }
 
-int Run(int& argc, char** argv, Mode mode, const fs::path& plugins) {
-    const fs::path exported = zvx::FindInFolder(plugins, "export.tmp");
+int Run(int& argc, char** argv, Mode mode, const fs::path& plugins, LockAtEnd& lock) {
+    fs::path exported = zvx::FindInFolder(plugins, "export.tmp");
     if (mode != Mode::CsvImport && !fs::is_regular_file(exported))
         throw std::runtime_error("there is nothing to export: " + exported.string() +
                                  " is missing");
+    // ZVX waits ten seconds at most, and choosing a file may take longer: an export that
+    // asks takes its own copy of the catalogue and lets ZVX go on at once. An import
+    // cannot, as ZVX looks for its result when the wait ends.
+    PrivateCopy copy;
+    if (mode != Mode::CsvImport && Env("ZVX_FILTER_TARGET").empty()) {
+        copy.path = fs::temp_directory_path() / ("zvxfilter-" + std::to_string(getpid()) + ".zvx");
+        zvx::CopyFileBytes(exported, copy.path);
+        exported = copy.path;
+        lock.now();
+    }
     const fs::path file = ChooseFile(argc, argv, mode);
     if (file.empty())
         return 0;
@@ -121,14 +150,14 @@ int main(int argc, char** argv) {
     const std::string home = Env("ZVX_HOME");
     const fs::path plugins =
         zvx::FindInFolder(home.empty() ? fs::current_path() : fs::path(home), zvx::kPluginsFolder);
-    LockAtEnd lock{plugins};
+    LockAtEnd lock(plugins);
     const std::optional<Mode> mode = argc > 1 ? ModeOf(argv[1]) : std::nullopt;
     if (!mode) {
         std::cerr << "usage: zvxfilter csv-export|html-export|csv-import\n";
         return 1;
     }
     try {
-        return Run(argc, argv, *mode, plugins);
+        return Run(argc, argv, *mode, plugins, lock);
     } catch (const std::exception& error) {
         std::cerr << "zvxfilter: " << error.what() << "\n";
         return 1;
