@@ -10,7 +10,9 @@
 #include <system_error>
 
 #include "catalogue_generator.h"
+#include "common/common.h"
 #include "platform/file_io.h"
+#include "quiet_screen.h"
 #include "store/entry_offset.h"
 #include "store/folder_listing.h"
 
@@ -121,6 +123,31 @@ void Report(const std::vector<Timing>& timings) {
             std::printf("%6.2f  (target cpu ratio <= %.1f)\n", growth, t.target);
         else
             std::printf("%6s\n", "-");
+    }
+}
+
+int RunComparison(const char* program, int argc, char** argv,
+                  const std::function<void(Common&, const fs::path& work,
+                                           std::vector<Timing>& timings)>& measure) {
+    if (argc > 2) {
+        std::fprintf(stderr, "usage: %s [FOLDER]\n", program);
+        return 2;
+    }
+    try {
+        const ScratchFolder scratch(argc == 2 ? fs::path(argv[1]) : DefaultWorkBase());
+        QuietScreen screen;
+        Common common(scratch.path(), scratch.path(), screen);
+        std::vector<Timing> timings;
+        measure(common, scratch.path(), timings);
+        Report(timings);
+        for (const Timing& t : timings) {
+            if (t.entries == 1000000 && t.ratio() > t.target)
+                return 1;
+        }
+        return 0;
+    } catch (const std::exception& e) {
+        std::fprintf(stderr, "%s: %s\n", program, e.what());
+        return 1;
     }
 }
 

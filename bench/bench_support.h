@@ -6,8 +6,13 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
+
+namespace zvx {
+class Common;
+}
 
 namespace zvx::bench {
 
@@ -69,6 +74,14 @@ struct Timing {
     double target = 0;  // the highest processor-time ratio allowed
     double ratio() const { return own.cpu / tool.cpu; }
 };
+
+// The frame of a benchmark against a tool: `measure` gets a common module over a scratch
+// folder (the program's one argument, FOLDER, or DefaultWorkBase()) and gathers the
+// timings; they are reported, and the exit status is 1 when a timing at 1,000,000 entries
+// misses its target (or the run failed), 2 for wrong use.
+int RunComparison(const char* program, int argc, char** argv,
+                  const std::function<void(Common&, const std::filesystem::path& work,
+                                           std::vector<Timing>& timings)>& measure);
 
 // The table of timings: times and ratios, the processor time an entry, and its growth
 // from the smaller catalogue of the same operation, so that a cost growing faster than

@@ -14,7 +14,6 @@
 #include <sys/resource.h>
 
 #include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -26,7 +25,6 @@
 #include "exchange/export_toc.h"
 #include "exchange/merge.h"
 #include "platform/file_io.h"
-#include "quiet_screen.h"
 
 namespace {
 
@@ -88,30 +86,14 @@ Timing TimeImport(zvx::Common& common, const fs::path& target, const fs::path& s
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc > 2) {
-        std::fprintf(stderr, "usage: exchange_bench [FOLDER]\n");
-        return 2;
-    }
-    try {
-        const zvx::bench::ScratchFolder scratch(argc == 2 ? fs::path(argv[1])
-                                                          : zvx::bench::DefaultWorkBase());
-        zvx::bench::QuietScreen screen;
-        zvx::Common common(scratch.path(), scratch.path(), screen);
-        std::vector<Timing> timings;
-        for (uint64_t entries : {100000ULL, 1000000ULL}) {
-            const fs::path first = CatalogueOf(entries, 1);
-            const fs::path second = CatalogueOf(entries, 2);
-            timings.push_back(TimeOptimize(common, first, entries, scratch.path()));
-            timings.push_back(TimeImport(common, first, second, entries, scratch.path()));
-        }
-        zvx::bench::Report(timings);
-        for (const Timing& t : timings) {
-            if (t.entries == 1000000 && t.ratio() > t.target)
-                return 1;
-        }
-        return 0;
-    } catch (const std::exception& e) {
-        std::fprintf(stderr, "exchange_bench: %s\n", e.what());
-        return 1;
-    }
+    return zvx::bench::RunComparison(
+        "exchange_bench", argc, argv,
+        [](zvx::Common& common, const fs::path& work, std::vector<Timing>& timings) {
+            for (uint64_t entries : {100000ULL, 1000000ULL}) {
+                const fs::path first = CatalogueOf(entries, 1);
+                const fs::path second = CatalogueOf(entries, 2);
+                timings.push_back(TimeOptimize(common, first, entries, work));
+                timings.push_back(TimeImport(common, first, second, entries, work));
+            }
+        });
 }

@@ -19,7 +19,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -30,7 +29,6 @@
 #include "finding/search_filter.h"
 #include "finding/search_preparation.h"
 #include "platform/file_io.h"
-#include "quiet_screen.h"
 
 namespace {
 
@@ -109,32 +107,16 @@ Timing TimeSplit(zvx::Common& common, const fs::path& catalogue, uint64_t entrie
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc > 2) {
-        std::fprintf(stderr, "usage: search_bench [FOLDER]\n");
-        return 2;
-    }
-    try {
-        const zvx::bench::ScratchFolder scratch(argc == 2 ? fs::path(argv[1])
-                                                          : zvx::bench::DefaultWorkBase());
-        zvx::bench::QuietScreen screen;
-        zvx::Common common(scratch.path(), scratch.path(), screen);
-        std::vector<Timing> timings;
-        for (uint64_t entries : {100000ULL, 1000000ULL}) {
-            const fs::path catalogue = CatalogueOf(entries);
-            zvx::bench::RunShell("cat " + ShellQuoted(catalogue.string()) + " > /dev/null");
-            std::printf("%llu entries:\n", static_cast<unsigned long long>(entries));
-            for (const FilterCase& c : kFilterCases)
-                timings.push_back(TimeFilter(common, catalogue, entries, c, scratch.path()));
-            timings.push_back(TimeSplit(common, catalogue, entries, scratch.path()));
-        }
-        zvx::bench::Report(timings);
-        for (const Timing& t : timings) {
-            if (t.entries == 1000000 && t.ratio() > t.target)
-                return 1;
-        }
-        return 0;
-    } catch (const std::exception& e) {
-        std::fprintf(stderr, "search_bench: %s\n", e.what());
-        return 1;
-    }
+    return zvx::bench::RunComparison(
+        "search_bench", argc, argv,
+        [](zvx::Common& common, const fs::path& work, std::vector<Timing>& timings) {
+            for (uint64_t entries : {100000ULL, 1000000ULL}) {
+                const fs::path catalogue = CatalogueOf(entries);
+                zvx::bench::RunShell("cat " + ShellQuoted(catalogue.string()) + " > /dev/null");
+                std::printf("%llu entries:\n", static_cast<unsigned long long>(entries));
+                for (const FilterCase& c : kFilterCases)
+                    timings.push_back(TimeFilter(common, catalogue, entries, c, work));
+                timings.push_back(TimeSplit(common, catalogue, entries, work));
+            }
+        });
 }
