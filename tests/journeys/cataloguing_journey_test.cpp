@@ -23,23 +23,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void Type(QWidget& window, const char* field, const QString& text) {
-    auto* edit = window.findChild<QLineEdit*>(field);
-    ASSERT_NE(edit, nullptr) << "no field " << field;
-    edit->clear();
-    QTest::keyClicks(edit, text);
-}
-
-// Names a new folder in the folder dialog; below the selected folder or at the root.
-void NameNewFolder(Journey& journey, const QString& name, bool atRoot) {
-    journey.onWindow("folderprops", [name, atRoot](QWidget& dialog) {
-        Type(dialog, "Text1", name);
-        if (atRoot)
-            Click(dialog, "Option2");
-        Click(dialog, "Command1");
-    });
-}
-
 bool Checked(frmMain& main, const char* key) {
     return main.menuEntry(key)->isChecked();
 }

@@ -28,21 +28,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void Type(QWidget& window, const char* field, const QString& text) {
-    auto* edit = window.findChild<QLineEdit*>(field);
-    ASSERT_NE(edit, nullptr) << "no field " << field;
-    edit->selectAll();
-    QTest::keyClicks(edit, text);
-}
-
-void NameNewFolder(Journey& journey, const QString& name) {
-    journey.onWindow("folderprops", [name](QWidget& dialog) {
-        Type(dialog, "Text1", name);
-        Click(dialog, "Option2");
-        Click(dialog, "Command1");
-    });
-}
-
 // Picks the target folder in the moving dialog and confirms.
 void ChooseTarget(Journey& journey, const QString& folder) {
     journey.onWindow("moving", [folder](QWidget& dialog) {
@@ -80,7 +65,7 @@ TEST(EditingJourney, EditorLocksCopyDeleteAndTheEditsKeptThroughSaveAndReopen) {
 
     journey.onWindow("Form1", [](QWidget& welcome) { Click(welcome, "Command1"); });
     journey.onMain("create a folder", [](frmMain& main) { Choose(main, "pathmnu0"); });
-    NameNewFolder(journey, "Music");
+    NameNewFolder(journey, "Music", true);
     journey.onMain("add files", [](frmMain& main) { Choose(main, "addmnu2"); });
     journey.screen.expectFileDialog("ZVX-Explorer - Add File(s)...",
                                     {{dawn.string(), dusk.string()}, false});
@@ -109,7 +94,7 @@ TEST(EditingJourney, EditorLocksCopyDeleteAndTheEditsKeptThroughSaveAndReopen) {
         EXPECT_EQ(Cell(document, 1, 11), "Sunrise");
         Choose(main, "pathmnu0");
     });
-    NameNewFolder(journey, "Archive");
+    NameNewFolder(journey, "Archive", true);
     journey.onMain("copy both into the archive", [](frmMain& main) {
         frmDocument& document = *ActiveDocument(main);
         ClickFolder(document, "Music");

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
@@ -264,6 +265,22 @@ bool ToolItemEnabled(frmMain& main, const QString& tag) {
     }
     ADD_FAILURE() << "no tool bar item " << tag.toStdString();
     return false;
+}
+
+void Type(QWidget& window, const char* field, const QString& text) {
+    auto* edit = window.findChild<QLineEdit*>(field);
+    ASSERT_NE(edit, nullptr) << "no field " << field;
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+}
+
+void NameNewFolder(Journey& journey, const QString& name, bool atRoot) {
+    journey.onWindow("folderprops", [name, atRoot](QWidget& dialog) {
+        Type(dialog, "Text1", name);
+        if (atRoot)
+            Click(dialog, "Option2");
+        Click(dialog, "Command1");
+    });
 }
 
 frmDocument* ActiveDocument(frmMain& main) {

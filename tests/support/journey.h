@@ -135,6 +135,11 @@ bool MenuEnabled(frmMain& main, const char* menuKey);
 // Whether the tool bar's button or drop-down item with this tag is enabled.
 bool ToolItemEnabled(frmMain& main, const QString& tag);
 
+// Types into a line edit of the window, in place of its text.
+void Type(QWidget& window, const char* field, const QString& text);
+// Names a new folder in the folder dialog: below the selected folder, or at the root.
+void NameNewFolder(Journey& journey, const QString& name, bool atRoot);
+
 // The active document window, or null.
 frmDocument* ActiveDocument(frmMain& main);
 // The folders of the document's tree by their paths ("Music\Rock"), top to bottom.
